@@ -1,0 +1,6 @@
+#include "ArtModel.h"
+
+int ArtModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return 1;
+}

@@ -1,0 +1,49 @@
+#include "gui.h"
+
+#include <QTextCodec>
+
+namespace gui {
+
+namespace {
+const char* const CODEPAGE = "Windows-1251";
+const char* const KEY_BASE_DIR = "Directories/BaseDir";
+const char* const KEY_FONT_HEIGHT = "Font/Height";
+const char* const KEY_FONT_FAMILY = "Font/Family";
+} // namespace
+
+QSettings settings(QStringLiteral("qtLoreka.ini"), QSettings::IniFormat);
+
+QSettings* getSettings()
+{
+    return &settings;
+}
+
+QString fromCp1251(std::string s)
+{
+    return QTextCodec::codecForName(CODEPAGE)->toUnicode(s.c_str());
+}
+
+std::string toCp1251(const QString& s)
+{
+    const QByteArray bytes = QTextCodec::codecForName(CODEPAGE)->fromUnicode(s);
+    return std::string(bytes.constData());
+}
+
+void setBaseDir(const QDir& dir)
+{
+    settings.setValue(KEY_BASE_DIR, dir.absolutePath());
+}
+
+QDir getBaseDir()
+{
+    return QDir(settings.value(KEY_BASE_DIR, QStringLiteral(".")).toString());
+}
+
+QFont getGenericFont()
+{
+    const QString family = settings.value(KEY_FONT_FAMILY, QStringLiteral("DejaVu Sans")).toString();
+    const int height = settings.value(KEY_FONT_HEIGHT, 11).toInt();
+    return QFont(family, height, -1, false);
+}
+
+} // namespace gui

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QDir>
+#include <QFont>
+#include <QSettings>
+#include <QString>
+
+#include <string>
+
+// Helpers every window shares: the one settings store, the game's code page and the text font.
+namespace gui {
+
+// "qtLoreka.ini" in the working directory at start-up; the only settings object of the program.
+extern QSettings settings;
+
+QSettings* getSettings();
+
+// Game text is Windows-1251; both conversions stop at the first NUL, like the C strings the game uses.
+QString fromCp1251(std::string s);
+std::string toCp1251(const QString& s);
+
+void setBaseDir(const QDir& dir);
+QDir getBaseDir();
+
+QFont getGenericFont();
+
+} // namespace gui

@@ -1,0 +1,6 @@
+#include "DialogueEditWidget.h"
+
+DialogueEditWidget::DialogueEditWidget(QWidget* parent)
+    : QWidget(parent)
+{
+}

@@ -1,0 +1,335 @@
+// Settings, code page helpers, data directory manager, main window and the options dialog.
+#include "ArtWidget.h"
+#include "DialogAbout.h"
+#include "DialogOptions.h"
+#include "MainWindow.h"
+#include "Manager.h"
+#include "MesWidget.h"
+#include "ProtoWidget.h"
+#include "ScriptWidget.h"
+#include "CurrentDirGuard.h"
+#include "ScriptedAnswerer.h"
+#include "gui.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFileSystemModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+void touch(const QString& path, QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("{1}{x}\r\n");
+    file.close();
+    QVERIFY(file.setPermissions(permissions));
+}
+
+QStringList childTexts(QTreeWidgetItem* item)
+{
+    QStringList texts;
+    for (int i = 0; i < item->childCount(); ++i)
+        texts << item->child(i)->text(0);
+    return texts;
+}
+
+} // namespace
+
+class TestShell : public QObject
+{
+    Q_OBJECT
+
+private:
+private slots:
+    // Runs first: nothing has written the settings yet in this fresh working directory.
+    void defaultsWithoutIni()
+    {
+        QVERIFY(!QFile::exists(QStringLiteral("qtLoreka.ini")));
+        QCOMPARE(gui::getSettings(), &gui::settings);
+        QCOMPARE(gui::getBaseDir().absolutePath(), QDir::currentPath());
+        const QFont font = gui::getGenericFont();
+        QCOMPARE(font.family(), QStringLiteral("DejaVu Sans"));
+        QCOMPARE(font.pointSize(), 11);
+        QVERIFY(!font.italic());
+    }
+
+    void fontFromSettings()
+    {
+        gui::settings.setValue(QStringLiteral("Font/Family"), QStringLiteral("DejaVu Sans Mono"));
+        gui::settings.setValue(QStringLiteral("Font/Height"), 14);
+        QCOMPARE(gui::getGenericFont().family(), QStringLiteral("DejaVu Sans Mono"));
+        QCOMPARE(gui::getGenericFont().pointSize(), 14);
+        gui::settings.setValue(QStringLiteral("Font/Height"), QStringLiteral("large"));
+        QVERIFY(gui::getGenericFont().pointSize() > 0); // an unreadable size falls back, never 0
+        gui::settings.remove(QStringLiteral("Font"));
+    }
+
+    void cp1251EveryByteRoundTrips()
+    {
+        for (int byte = 1; byte < 256; ++byte) {
+            const std::string in(1, static_cast<char>(byte));
+            const QString text = gui::fromCp1251(in);
+            QCOMPARE(text.size(), 1);
+            QCOMPARE(gui::toCp1251(text), in);
+        }
+        QCOMPARE(gui::fromCp1251(std::string("\xC0", 1)), QString(QChar(0x0410)));
+        QCOMPARE(gui::toCp1251(QString(QChar(0x0410))), std::string("\xC0"));
+    }
+
+    void cp1251StopsAtNul()
+    {
+        QCOMPARE(gui::fromCp1251(std::string("ab\0cd", 5)), QStringLiteral("ab"));
+        QCOMPARE(gui::toCp1251(QStringLiteral("ab") + QChar(0) + QStringLiteral("cd")), std::string("ab"));
+    }
+
+    void setBaseDirStoresAbsolutePath()
+    {
+        QDir().mkpath(QStringLiteral("games/one"));
+        gui::setBaseDir(QDir(QStringLiteral("games/one")));
+        const QString expected = QDir::current().absoluteFilePath(QStringLiteral("games/one"));
+        QCOMPARE(gui::settings.value(QStringLiteral("Directories/BaseDir")).toString(), expected);
+        {
+            CurrentDirGuard cwd(QStringLiteral("games"));
+            QVERIFY(cwd.ok);
+            QCOMPARE(gui::getBaseDir().absolutePath(), expected);
+        }
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void managerListsWritableFilesInNameOrder()
+    {
+        QTemporaryDir game;
+        const QString mes = game.path() + QStringLiteral("/data/mes/");
+        touch(mes + QStringLiteral("b.mes"));
+        touch(mes + QStringLiteral("C.mes"));
+        touch(mes + QStringLiteral("A.mes"));
+        touch(mes + QStringLiteral("readonly.mes"), QFile::ReadOwner);
+        touch(mes + QStringLiteral("other.txt"));
+        touch(mes + QStringLiteral("sub/y.mes"));
+        QDir().mkpath(mes + QStringLiteral("z.mes"));
+        QVERIFY(QFile::link(mes + QStringLiteral("b.mes"), mes + QStringLiteral("link.mes")));
+        touch(game.path() + QStringLiteral("/data/rules/r.mes"));
+        touch(game.path() + QStringLiteral("/data/scr/00001x.scr"));
+        touch(game.path() + QStringLiteral("/data/proto/w.pro"));
+        touch(game.path() + QStringLiteral("/data/dlg/d.dlg"));
+
+        arcanum::Manager manager;
+        QVERIFY(manager.setBaseDir(game.path()));
+        manager.reloadAll();
+        // root may write any file, so only a file the process really cannot write stays hidden
+        const bool hidden = !QFileInfo(mes + QStringLiteral("readonly.mes")).isWritable();
+        QCOMPARE(manager.messages, hidden ? QStringList({"A.mes", "b.mes", "C.mes"})
+                                          : QStringList({"A.mes", "b.mes", "C.mes", "readonly.mes"}));
+        QCOMPARE(manager.rules, QStringList({"r.mes"}));
+        QCOMPARE(manager.scripts, QStringList({"00001x.scr"}));
+        QCOMPARE(manager.prototypes, QStringList({"w.pro"}));
+        QVERIFY(manager.semes.isEmpty());
+        QVERIFY(manager.dialogues.isEmpty()); // not scanned by reloadAll
+        manager.reloadDlg();
+        QCOMPARE(manager.dialogues, QStringList({"d.dlg"}));
+
+        QVERIFY(QFile::setPermissions(mes + QStringLiteral("readonly.mes"), QFile::ReadOwner | QFile::WriteOwner));
+        manager.reloadMes();
+        QCOMPARE(manager.messages, QStringList({"A.mes", "b.mes", "C.mes", "readonly.mes"}));
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void managerWithoutDataFolder()
+    {
+        QTemporaryDir game;
+        arcanum::Manager manager;
+        QVERIFY(manager.setBaseDir(game.path()));
+        manager.reloadAll();
+        manager.reloadDlg();
+        for (const QStringList* list : {&manager.scripts, &manager.messages, &manager.rules, &manager.semes,
+                                        &manager.oemes, &manager.dialogues, &manager.prototypes})
+            QVERIFY(list->isEmpty());
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void managerRejectsMissingDirectory()
+    {
+        QTemporaryDir game;
+        arcanum::Manager manager;
+        QVERIFY(manager.setBaseDir(game.path()));
+        gui::settings.sync();
+        const QString stored = gui::settings.value(QStringLiteral("Directories/BaseDir")).toString();
+        QVERIFY(!manager.setBaseDir(QStringLiteral("/nonexistent/qtloreka")));
+        QCOMPARE(manager.getBaseDirPath(), QDir(game.path()).absolutePath());
+        QCOMPARE(gui::settings.value(QStringLiteral("Directories/BaseDir")).toString(), stored);
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void mainWindowForm()
+    {
+        MainWindow window;
+        auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+        QVERIFY(tabs);
+        QCOMPARE(window.windowTitle(), QStringLiteral("qtLoreka"));
+        const QStringList titles = {"Script", "Mes", "Dialogue", "Art", "Proto"};
+        const QStringList names = {"tabScripts", "tabMes", "tabDialogue", "tabArt", "tabProto"};
+        QCOMPARE(tabs->count(), 5);
+        for (int i = 0; i < 5; ++i) {
+            QCOMPARE(tabs->tabText(i), titles[i]);
+            QCOMPARE(tabs->widget(i)->objectName(), names[i]);
+        }
+        for (const char* name : {"buttonScriptNew", "buttonScriptDelete"})
+            QVERIFY(!window.findChild<QPushButton*>(QString::fromLatin1(name))->isEnabled());
+        for (const char* name : {"actionNew", "actionDelete"})
+            QVERIFY(!window.findChild<QAction*>(QString::fromLatin1(name))->isEnabled());
+        QCOMPARE(window.findChild<QAction*>(QStringLiteral("actionExit"))->shortcut(), QKeySequence("Ctrl+X"));
+        QCOMPARE(window.findChild<QAction*>(QStringLiteral("actionNew"))->shortcut(), QKeySequence("Ctrl+N"));
+        QCOMPARE(window.findChild<QListWidget*>(QStringLiteral("listScripts"))->width(), 280);
+        QCOMPARE(window.scriptPage()->minimumHeight(), 280);
+        QCOMPARE(window.font().family(), gui::getGenericFont().family());
+    }
+
+    void filesReachTheirPages()
+    {
+        QTemporaryDir game;
+        const QString base = QDir(game.path()).absolutePath();
+        touch(base + QStringLiteral("/data/scr/00002sample.scr"));
+        touch(base + QStringLiteral("/data/rules/r.mes"));
+        touch(base + QStringLiteral("/data/proto/w.pro"));
+        CurrentDirGuard cwd(base);
+        QVERIFY(cwd.ok);
+        gui::setBaseDir(QDir(base));
+        {
+            MainWindow window;
+            window.findChild<QListWidget*>(QStringLiteral("listScripts"))->setCurrentRow(0);
+            QCOMPARE(window.scriptPage()->getPath(), base + QStringLiteral("/data/scr/00002sample.scr"));
+
+            auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
+            QCOMPARE(tree->topLevelItemCount(), 5);
+            QCOMPARE(tree->topLevelItem(4)->text(0), QStringLiteral("DLG"));
+            QCOMPARE(tree->topLevelItem(4)->childCount(), 0);
+            tree->setCurrentItem(tree->topLevelItem(1)); // "RULES" itself loads nothing
+            QVERIFY(window.mesPage()->getFilename().isEmpty());
+            QCOMPARE(childTexts(tree->topLevelItem(1)), QStringList({"r.mes"}));
+            tree->setCurrentItem(tree->topLevelItem(1)->child(0));
+            QCOMPARE(window.mesPage()->getFilename(), base + QStringLiteral("/data/rules/r.mes"));
+
+            window.findChild<QListWidget*>(QStringLiteral("protoList"))->setCurrentRow(0);
+            QCOMPARE(QString::fromStdString(window.protoPage()->getPath()), base + QStringLiteral("/data/proto/w.pro"));
+        }
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void artTreeLoadsArtFilesOnly()
+    {
+        QTemporaryDir game;
+        const QString base = QDir(game.path()).absolutePath();
+        touch(base + QStringLiteral("/data/art/monster/Orc.ART"));
+        touch(base + QStringLiteral("/data/art/monster/orc.aap"));
+        CurrentDirGuard cwd(base);
+        QVERIFY(cwd.ok);
+        {
+            MainWindow window;
+            auto* tree = window.findChild<QTreeView*>(QStringLiteral("artTree"));
+            auto* model = qobject_cast<QFileSystemModel*>(tree->model());
+            QVERIFY(model);
+            QCOMPARE(model->columnCount(), 1);
+            QCOMPARE(model->filePath(tree->rootIndex()), base + QStringLiteral("/data/art"));
+            const QModelIndex folder = model->index(base + QStringLiteral("/data/art/monster"));
+            emit tree->activated(folder);
+            QVERIFY(window.artPage()->getPath().empty());
+            emit tree->activated(model->index(base + QStringLiteral("/data/art/monster/orc.aap")));
+            QVERIFY(window.artPage()->getPath().empty());
+            emit tree->activated(model->index(base + QStringLiteral("/data/art/monster/Orc.ART")));
+            QCOMPARE(QString::fromStdString(window.artPage()->getPath()),
+                     base + QStringLiteral("/data/art/monster/Orc.ART"));
+        }
+    }
+
+    void configureRescansOnlyOnChange()
+    {
+        QTemporaryDir first;
+        QTemporaryDir second;
+        touch(first.path() + QStringLiteral("/data/mes/one.mes"));
+        touch(second.path() + QStringLiteral("/data/mes/two.mes"));
+        gui::setBaseDir(QDir(first.path()));
+        MainWindow window;
+        auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
+        touch(first.path() + QStringLiteral("/data/mes/new.mes"));
+
+        ScriptedAnswerer answers;
+        answers.dialogs.enqueue([](QDialog& dialog) { return dialog.accept(), int(QDialog::Accepted); });
+        window.findChild<QAction*>(QStringLiteral("actionConfigure"))->trigger();
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
+        QCOMPARE(childTexts(tree->topLevelItem(0)), QStringList({"one.mes"}));
+
+        const QString target = second.path();
+        answers.dialogs.enqueue([target](QDialog& dialog) {
+            auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("baseDirLineEdit"));
+            edit->setText(target);
+            emit edit->editingFinished();
+            return int(QDialog::Rejected); // Cancel does not undo the change
+        });
+        window.findChild<QAction*>(QStringLiteral("actionConfigure"))->trigger();
+        QCOMPARE(childTexts(tree->topLevelItem(0)), QStringList({"two.mes"}));
+        QCOMPARE(window.getManager().getBaseDirPath(), QDir(second.path()).absolutePath());
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void optionsLineEdit()
+    {
+        QTemporaryDir game;
+        arcanum::Manager manager;
+        QVERIFY(manager.setBaseDir(game.path()));
+        DialogOptions dialog(nullptr, &manager);
+        auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("baseDirLineEdit"));
+        QCOMPARE(edit->text(), QDir(game.path()).absolutePath());
+
+        edit->setText(QStringLiteral("/nonexistent/qtloreka"));
+        emit edit->editingFinished();
+        QCOMPARE(edit->text(), QDir(game.path()).absolutePath());
+
+        QDir().mkpath(QStringLiteral("relative/game"));
+        edit->setText(QStringLiteral("relative/game"));
+        emit edit->editingFinished();
+        QCOMPARE(edit->text(), QDir::current().absoluteFilePath(QStringLiteral("relative/game")));
+        QCOMPARE(gui::settings.value(QStringLiteral("Directories/BaseDir")).toString(), edit->text());
+
+        const QList<QCheckBox*> boxes = dialog.findChildren<QCheckBox*>();
+        QCOMPARE(boxes.size(), 12);
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void cancelledBrowseChoosesWorkingDirectory()
+    {
+        QTemporaryDir game;
+        arcanum::Manager manager;
+        QVERIFY(manager.setBaseDir(game.path()));
+        DialogOptions dialog(nullptr, &manager);
+        ScriptedAnswerer answers; // no file name queued: the chooser is cancelled
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("baseDirBrowse")), Qt::LeftButton);
+        QCOMPARE(answers.last(QStringLiteral("directory"))->title, QStringLiteral("Choose Arcanum base directory"));
+        QCOMPARE(manager.getBaseDirPath(), QDir::currentPath());
+        QVERIFY(dialog.findChild<QLineEdit*>(QStringLiteral("baseDirLineEdit"))->text().isEmpty());
+        gui::settings.remove(QStringLiteral("Directories"));
+    }
+
+    void aboutShowsVersion()
+    {
+        DialogAbout about(nullptr);
+        QCOMPARE(about.findChild<QLabel*>(QStringLiteral("label"))->text(), QStringLiteral("Version: "));
+        QCOMPARE(about.findChild<QLabel*>(QStringLiteral("labelVersion"))->text(), QStringLiteral("0.8"));
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&about, &change);
+        QCOMPARE(about.findChild<QLabel*>(QStringLiteral("labelVersion"))->text(), QStringLiteral("<version>"));
+    }
+};
+
+QTEST_MAIN(TestShell)
+#include "tst_shell.moc"

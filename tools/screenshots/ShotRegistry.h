@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+class MainWindow;
+class QWidget;
+
+// One registered shot per picture: it prepares the window (a tab, a loaded file, an open dialog)
+// and returns the widget to grab, or nullptr for the whole main window.
+class ShotRegistry
+{
+public:
+    using Prepare = QWidget* (*)(MainWindow& window);
+    struct Entry
+    {
+        int order;
+        QString name;
+        Prepare prepare;
+    };
+
+    static void add(int order, const QString& name, Prepare prepare);
+    static const std::vector<Entry>& all();
+    // Lets queued layout and paint events run, so a grab shows the settled page.
+    static void settle();
+};
+
+struct ShotRegistration
+{
+    ShotRegistration(int order, const char* name, ShotRegistry::Prepare prepare)
+    {
+        ShotRegistry::add(order, QString::fromLatin1(name), prepare);
+    }
+};
