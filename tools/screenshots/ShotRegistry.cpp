@@ -1,7 +1,11 @@
 #include "ShotRegistry.h"
 
+#include "MainWindow.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QListWidget>
+#include <QTabWidget>
 
 #include <algorithm>
 
@@ -31,4 +35,17 @@ void ShotRegistry::settle()
     timer.start();
     while (timer.elapsed() < 300)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+}
+
+void ShotRegistry::showTab(MainWindow& window, int index)
+{
+    if (auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget")))
+        tabs->setCurrentIndex(index);
+}
+
+void ShotRegistry::selectFirst(MainWindow& window, const char* listName)
+{
+    auto* list = window.findChild<QListWidget*>(QString::fromLatin1(listName));
+    if (list && list->count() > 0)
+        list->setCurrentRow(0);
 }

@@ -24,6 +24,10 @@ public:
     static const std::vector<Entry>& all();
     // Lets queued layout and paint events run, so a grab shows the settled page.
     static void settle();
+    // Brings tab index of the main window to the front.
+    static void showTab(MainWindow& window, int index);
+    // Makes row 0 of the named list widget current (a no-op for an empty or missing list).
+    static void selectFirst(MainWindow& window, const char* listName);
 };
 
 struct ShotRegistration
