@@ -1,0 +1,462 @@
+#include "Artfile.h"
+
+#include "ArtRunLength.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QtEndian>
+
+#include <algorithm>
+#include <iostream>
+
+namespace arcanum {
+
+namespace {
+constexpr unsigned ART_TYPE = 0;
+constexpr unsigned WORD_4 = 4;
+constexpr unsigned WORD_8 = 8;
+constexpr unsigned PALETTE_MARKS = 12;
+constexpr unsigned ANIMATION_WORD = 28;
+constexpr unsigned FRAME_COUNT = 32;
+constexpr unsigned DIRECTIONS = 8;
+constexpr unsigned TILE_IMAGES = 225;
+// Larger frames are damaged headers, not sprites; refusing them keeps one bad word from
+// asking for gigabytes.
+constexpr quint64 MAX_FRAME_PIXELS = quint64(1) << 26;
+
+quint32 wordAt(const QByteArray& bytes, qsizetype pos)
+{
+    return qFromLittleEndian<quint32>(bytes.constData() + pos);
+}
+
+void appendWord(QByteArray& out, quint32 value)
+{
+    char bytes[4];
+    qToLittleEndian(value, bytes);
+    out.append(bytes, 4);
+}
+
+void appendPalette(QByteArray& out, const Artfile::Colour (&colours)[Artfile::PALETTE_SIZE])
+{
+    for (const Artfile::Colour& c : colours) {
+        const char entry[4] = {char(c.blue), char(c.green), char(c.red), char(c.extra)};
+        out.append(entry, 4);
+    }
+}
+
+void say(const char* text)
+{
+    std::cout << text << std::endl;
+}
+} // namespace
+
+Artfile::Colour Artfile::Colour::fromArgb(QRgb value)
+{
+    return {quint8(qBlue(value)), quint8(qGreen(value)), quint8(qRed(value)), quint8(qAlpha(value))};
+}
+
+bool Artfile::Colour::operator==(const Colour& other) const
+{
+    return blue == other.blue && green == other.green && red == other.red && extra == other.extra;
+}
+
+Artfile::Image::Image()
+    : width(16)
+    , height(16)
+    , dataSize(256)
+    , left(0)
+    , top(0)
+    , dx(0)
+    , dy(0)
+    , data(256, '\0')
+{
+}
+
+void Artfile::Image::setData(quint32 newWidth, quint32 newHeight, const QByteArray& bytes)
+{
+    width = newWidth;
+    height = newHeight;
+    data = bytes;
+    dataSize = quint32(bytes.size());
+}
+
+Artfile::Artfile()
+{
+    clear();
+}
+
+void Artfile::clear()
+{
+    images.clear();
+    trailer.clear();
+    paletteCount = 1;
+    frameCount = 0;
+    path.clear();
+}
+
+quint32 Artfile::headerWord(unsigned offset) const
+{
+    return qFromLittleEndian<quint32>(header.data() + offset);
+}
+
+void Artfile::setHeaderWord(unsigned offset, quint32 value)
+{
+    qToLittleEndian(value, header.data() + offset);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Reading
+
+void Artfile::load(std::string newPath)
+{
+    QFile file(QFile::decodeName(QByteArray::fromStdString(newPath)));
+    if (!file.open(QIODevice::ReadOnly)) {
+        std::cout << "Cannot open file: " << newPath << std::endl;
+        return;
+    }
+    const QByteArray bytes = file.readAll();
+    clear();
+    if (!parse(bytes)) {
+        std::cout << "Artfile::load(): " << newPath << " is damaged or not an art file." << std::endl;
+        clear();
+        return;
+    }
+    path = newPath;
+}
+
+bool Artfile::parse(const QByteArray& bytes)
+{
+    if (bytes.size() < qsizetype(HEADER_SIZE))
+        return false;
+    std::copy_n(reinterpret_cast<const quint8*>(bytes.constData()), HEADER_SIZE, header.begin());
+    readCounts();
+    qsizetype pos = HEADER_SIZE;
+    if (!readPalettes(bytes, pos) || !readFrameHeaders(bytes, pos) || !readPixelData(bytes, pos))
+        return false;
+    trailer = bytes.mid(pos);
+    return true;
+}
+
+void Artfile::readCounts()
+{
+    artTypeRead = headerWord(ART_TYPE);
+    paletteCount = 1;
+    paletteMark = headerWord(PALETTE_MARKS);
+    for (unsigned i = MAX_PALETTES - 1; i > 0; --i) {
+        const quint32 mark = headerWord(PALETTE_MARKS + 4 * i);
+        if (mark != 0) {
+            paletteCount = i + 1;
+            paletteMark = mark;
+            break;
+        }
+    }
+    animationWord = headerWord(ANIMATION_WORD);
+}
+
+bool Artfile::readPalettes(const QByteArray& bytes, qsizetype& pos)
+{
+    if (bytes.size() - pos < qsizetype(paletteCount * PALETTE_BYTES))
+        return false;
+    for (unsigned p = 0; p < paletteCount; ++p) {
+        paletteFromBytes(bytes.mid(pos, PALETTE_BYTES), palettes[p]);
+        pos += PALETTE_BYTES;
+    }
+    return true;
+}
+
+bool Artfile::readFrameHeaders(const QByteArray& bytes, qsizetype& pos)
+{
+    const bool directions = artTypeRead == 0 || artTypeRead == 2;
+    const quint64 imageTotal = directions ? DIRECTIONS : headerWord(FRAME_COUNT);
+    const quint64 framesEach = directions ? headerWord(FRAME_COUNT) : 1;
+    // Checked before anything is allocated: the counts come straight from the file.
+    if (quint64(bytes.size() - pos) < imageTotal * framesEach * FRAME_HEADER_SIZE)
+        return false;
+    frameCount = unsigned(framesEach);
+    images.assign(imageTotal, std::vector<Image>(framesEach));
+    for (std::vector<Image>& frames : images) {
+        for (Image& frame : frames) {
+            frame.width = wordAt(bytes, pos);
+            frame.height = wordAt(bytes, pos + 4);
+            frame.dataSize = wordAt(bytes, pos + 8);
+            frame.left = qint32(wordAt(bytes, pos + 12));
+            frame.top = qint32(wordAt(bytes, pos + 16));
+            frame.dx = qint32(wordAt(bytes, pos + 20));
+            frame.dy = qint32(wordAt(bytes, pos + 24));
+            pos += FRAME_HEADER_SIZE;
+        }
+    }
+    return true;
+}
+
+bool Artfile::readPixelData(const QByteArray& bytes, qsizetype& pos)
+{
+    for (std::vector<Image>& frames : images) {
+        for (Image& frame : frames) {
+            if (quint64(bytes.size() - pos) < frame.dataSize)
+                return false;
+            frame.data = bytes.mid(pos, qsizetype(frame.dataSize));
+            pos += qsizetype(frame.dataSize);
+        }
+    }
+    return true;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Writing
+
+QByteArray Artfile::toBytes() const
+{
+    QByteArray out;
+    if (images.empty())
+        return out;
+    out.append(reinterpret_cast<const char*>(header.data()), HEADER_SIZE);
+    for (unsigned p = 0; p < paletteCount; ++p)
+        appendPalette(out, palettes[p]);
+    for (const std::vector<Image>& frames : images) {
+        for (const Image& frame : frames) {
+            for (quint32 word : {frame.width, frame.height, frame.dataSize, quint32(frame.left), quint32(frame.top),
+                                 quint32(frame.dx), quint32(frame.dy)})
+                appendWord(out, word);
+        }
+    }
+    for (const std::vector<Image>& frames : images) {
+        for (const Image& frame : frames)
+            out.append(frame.data);
+    }
+    out.append(trailer);
+    return out;
+}
+
+bool Artfile::save(const QString& target)
+{
+    if (images.empty()) {
+        say("Cannot save: Artfile is empty.");
+        return false;
+    }
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly)) {
+        std::cout << "Cannot open file: " << QFile::encodeName(target).constData() << std::endl;
+        return false;
+    }
+    const QByteArray bytes = toBytes();
+    if (file.write(bytes) != bytes.size() || !file.commit()) {
+        std::cout << "Artfile::save(): could not write " << QFile::encodeName(target).constData() << std::endl;
+        return false;
+    }
+    return true;
+}
+
+bool Artfile::combHeader()
+{
+    for (unsigned i = 0; i < MAX_PALETTES; ++i)
+        setHeaderWord(PALETTE_MARKS + 4 * i, i == 0 || i < paletteCount ? paletteMark : 0);
+    setHeaderWord(ANIMATION_WORD, animationWord);
+    const unsigned imageCount = getImageCount();
+    if (imageCount == DIRECTIONS) {
+        setHeaderWord(ART_TYPE, 0);
+        setHeaderWord(FRAME_COUNT, frameCount);
+    } else if (imageCount == TILE_IMAGES) {
+        setHeaderWord(ART_TYPE, 5);
+        setHeaderWord(WORD_4, 8);
+        setHeaderWord(WORD_8, 8);
+        setHeaderWord(ANIMATION_WORD, TILE_IMAGES - 1);
+        setHeaderWord(FRAME_COUNT, TILE_IMAGES);
+    } else {
+        setHeaderWord(ART_TYPE, 1);
+        setHeaderWord(FRAME_COUNT, imageCount);
+    }
+    return true;
+}
+
+void Artfile::setAnimated(bool animated)
+{
+    animationWord = animated ? 2 : 0;
+    combHeader();
+}
+
+// ---------------------------------------------------------------------------------------------
+// Palettes
+
+Artfile::Colour* Artfile::getPalette(unsigned index)
+{
+    if (index >= paletteCount) {
+        say("Cannot getPalette(): wrong palette index requested.");
+        return nullptr;
+    }
+    return palettes[index];
+}
+
+bool Artfile::setPalette(unsigned index, const Colour (&colours)[PALETTE_SIZE])
+{
+    if (index >= paletteCount) {
+        say("Cannot setPalette(): wrong palette index requested.");
+        return false;
+    }
+    copyPalette(colours, palettes[index]);
+    return true;
+}
+
+void Artfile::copyPalette(const Colour (&src)[PALETTE_SIZE], Colour (&dst)[PALETTE_SIZE])
+{
+    std::copy(std::begin(src), std::end(src), std::begin(dst));
+}
+
+bool Artfile::newPalette(unsigned fromIndex)
+{
+    if (paletteCount >= MAX_PALETTES || fromIndex >= paletteCount)
+        return false;
+    copyPalette(palettes[fromIndex], palettes[paletteCount]);
+    ++paletteCount;
+    combHeader();
+    return true;
+}
+
+bool Artfile::deletePalette(unsigned index)
+{
+    if (paletteCount == 0 || index >= paletteCount)
+        return false;
+    for (unsigned p = index; p + 1 < paletteCount; ++p)
+        copyPalette(palettes[p + 1], palettes[p]);
+    --paletteCount;
+    combHeader();
+    return true;
+}
+
+QByteArray Artfile::paletteToBytes(const Colour (&colours)[PALETTE_SIZE])
+{
+    QByteArray out;
+    appendPalette(out, colours);
+    return out;
+}
+
+void Artfile::paletteFromBytes(const QByteArray& bytes, Colour (&colours)[PALETTE_SIZE])
+{
+    const qsizetype entries = std::min<qsizetype>(bytes.size() / 4, PALETTE_SIZE);
+    for (qsizetype i = 0; i < entries; ++i) {
+        const auto* entry = reinterpret_cast<const quint8*>(bytes.constData() + 4 * i);
+        colours[i] = {entry[0], entry[1], entry[2], entry[3]};
+    }
+}
+
+// ---------------------------------------------------------------------------------------------
+// Images and frames
+
+Artfile::Image* Artfile::getImage(unsigned image, unsigned frame)
+{
+    if (!isImage(image, frame)) {
+        say("Cannot getImage(): wrong frame requested.");
+        return nullptr;
+    }
+    return &images[image][frame];
+}
+
+bool Artfile::isImage(unsigned image, unsigned frame) const
+{
+    return image < images.size() && frame < frameCount && frame < images[image].size();
+}
+
+bool Artfile::newImage(unsigned)
+{
+    images.emplace_back(frameCount);
+    return combHeader();
+}
+
+bool Artfile::deleteImage(unsigned index)
+{
+    if (index >= images.size())
+        return false;
+    images.erase(images.begin() + index);
+    return combHeader();
+}
+
+bool Artfile::newFrame(unsigned)
+{
+    for (std::vector<Image>& frames : images)
+        frames.emplace_back();
+    ++frameCount;
+    return combHeader();
+}
+
+bool Artfile::deleteFrame(unsigned index)
+{
+    if (index >= frameCount)
+        return false;
+    for (std::vector<Image>& frames : images)
+        frames.erase(frames.begin() + index);
+    --frameCount;
+    return combHeader();
+}
+
+// ---------------------------------------------------------------------------------------------
+// Conversion to and from screen images
+
+bool Artfile::convertTo(QImage& out, unsigned palette, unsigned image, unsigned frame)
+{
+    if (images.empty()) {
+        say("Cannot convertTo: Artfile is empty.");
+        return false;
+    }
+    if (palette >= paletteCount) {
+        say("Cannot convertTo: wrong palette requested.");
+        return false;
+    }
+    const Image* source = getImage(image, frame);
+    if (!source) {
+        say("Cannot convertTo: wrong frame requested.");
+        return false;
+    }
+    const quint64 pixels = quint64(source->width) * source->height;
+    if (pixels == 0 || pixels > MAX_FRAME_PIXELS) {
+        say("Cannot convertTo: frame size out of range.");
+        return false;
+    }
+    QImage result(int(source->width), int(source->height), QImage::Format_Indexed8);
+    if (result.isNull()) {
+        say("Cannot convertTo: out of memory.");
+        return false;
+    }
+    QVector<QRgb> table(PALETTE_SIZE);
+    for (unsigned i = 0; i < PALETTE_SIZE; ++i)
+        table[int(i)] = palettes[palette][i].toRgb();
+    result.setColorTable(table);
+    fillPixels(*source, result);
+    lastRunLength = !source->isRaw();
+    out = result;
+    return true;
+}
+
+void Artfile::fillPixels(const Image& frame, QImage& out) const
+{
+    const std::size_t width = frame.width;
+    std::vector<quint8> pixels(width * frame.height, 0);
+    if (frame.isRaw())
+        std::copy_n(reinterpret_cast<const quint8*>(frame.data.constData()),
+                    std::min(pixels.size(), std::size_t(frame.data.size())), pixels.begin());
+    else
+        ArtRunLength::decode(frame.data, pixels.data(), pixels.size());
+    for (int y = 0; y < out.height(); ++y)
+        std::copy_n(pixels.data() + std::size_t(y) * width, width, out.scanLine(y));
+}
+
+void Artfile::convertFrom(const QImage& source, unsigned image, unsigned frame, bool)
+{
+    if (!isImage(image, frame)) {
+        say("Cannot convertFrom: wrong frame requested.");
+        return;
+    }
+    if (source.isNull()) {
+        say("Cannot convertFrom: source is null.");
+        return;
+    }
+    const QImage indexed = source.convertToFormat(QImage::Format_Indexed8);
+    const auto width = std::size_t(indexed.width());
+    QByteArray bytes;
+    bytes.reserve(qsizetype(width) * indexed.height());
+    for (int y = 0; y < indexed.height(); ++y)
+        bytes.append(reinterpret_cast<const char*>(indexed.constScanLine(y)), qsizetype(width));
+    images[image][frame].setData(quint32(indexed.width()), quint32(indexed.height()), bytes);
+    combHeader();
+}
+
+} // namespace arcanum
