@@ -1,16 +1,16 @@
 // The art file model: reading, writing, header rebuilding, structural edits and frame conversion.
 #include "ArtRunLength.h"
 #include "Artfile.h"
+#include "ArtTestSupport.h"
 #include "FormatChecks.h"
 
 #include <QTemporaryDir>
 #include <QtEndian>
 #include <QtTest>
 
-#include <iostream>
-#include <sstream>
-
 using arcanum::Artfile;
+using ArtTestSupport::CoutCapture;
+using ArtTestSupport::indices;
 
 namespace {
 
@@ -81,14 +81,6 @@ quint32 wordOf(const QByteArray& bytes, int offset)
     return qFromLittleEndian<quint32>(bytes.constData() + offset);
 }
 
-QByteArray indices(const QImage& image)
-{
-    QByteArray out;
-    for (int y = 0; y < image.height(); ++y)
-        out.append(reinterpret_cast<const char*>(image.constScanLine(y)), image.width());
-    return out;
-}
-
 // Eight images of the given frames each, with two palettes and a mix of raw and run-length frames.
 ArtBytes directions(quint32 artType, unsigned framesEach)
 {
@@ -106,22 +98,6 @@ ArtBytes directions(quint32 artType, unsigned framesEach)
     }
     return art;
 }
-
-// Collects what a call writes on standard output.
-class CoutCapture
-{
-public:
-    CoutCapture()
-        : previous(std::cout.rdbuf(buffer.rdbuf()))
-    {
-    }
-    ~CoutCapture() { std::cout.rdbuf(previous); }
-    QString text() const { return QString::fromStdString(buffer.str()); }
-
-private:
-    std::ostringstream buffer;
-    std::streambuf* previous;
-};
 
 } // namespace
 
