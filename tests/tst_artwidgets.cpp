@@ -167,6 +167,13 @@ private slots:
         QVERIFY(!child<QPushButton>(page, "buttonSave")->isEnabled());
         QVERIFY(!child<QPushButton>(page, "frameButtonNew")->isEnabled());
         QVERIFY(child<QLabel>(page, "labelFile")->text().contains(QStringLiteral("Could not load junk.art")));
+
+        page.loadArt(QFile::encodeName(writeArt(path(QStringLiteral("good.art")), 1, 1, 1)).toStdString());
+        QVERIFY(page.getArtfile().isLoaded());
+        page.loadArt(QFile::encodeName(path(QStringLiteral("missing.art"))).toStdString());
+        QVERIFY(!page.getArtfile().isLoaded());
+        QVERIFY(!child<QPushButton>(page, "buttonSave")->isEnabled());
+        QVERIFY(child<QLabel>(page, "labelFile")->text().contains(QStringLiteral("Could not load missing.art")));
     }
 
     void deletingTheLastFrameSelectsTheOneBefore()

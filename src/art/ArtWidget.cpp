@@ -35,6 +35,10 @@ void ArtWidget::loadArt(const std::string& fullPath)
 {
     path = fullPath;
     artfile.load(fullPath);
+    // A file that could not be opened leaves the model as it was; the page must not go on
+    // showing (and saving) the previous file under the new name.
+    if (artfile.getPath() != fullPath)
+        artfile.clear();
     header->setArtfile(&artfile);
     editor->setArtfile(&artfile);
     modified = false;

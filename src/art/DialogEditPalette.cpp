@@ -102,7 +102,7 @@ void DialogEditPalette::updateView()
 
 void DialogEditPalette::updateControls()
 {
-    ui->buttonCopy->setEnabled(!preview.isNull());
+    ui->buttonCopy->setEnabled(true);
     const QClipboard* clipboard = QGuiApplication::clipboard();
     ui->buttonPaste->setEnabled(clipboard->mimeData() && clipboard->mimeData()->hasImage());
 }
