@@ -36,6 +36,10 @@ DialogEditPalette::DialogEditPalette(QWidget* parent)
     ui->tablePalette->setVerticalHeaderLabels(hexRows);
     ui->tablePalette->horizontalHeader()->setMinimumSectionSize(8);
     ui->tablePalette->verticalHeader()->setMinimumSectionSize(8);
+    // Whole-pixel cells leave a sliver of the table uncovered; let it read as margin, not as a row.
+    QPalette tableColours = ui->tablePalette->palette();
+    tableColours.setColor(QPalette::Base, tableColours.color(QPalette::Window));
+    ui->tablePalette->setPalette(tableColours);
     ui->view->setAutoFillBackground(true);
     ui->view->setBackgroundRole(QPalette::Dark);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &DialogEditPalette::updateControls);
