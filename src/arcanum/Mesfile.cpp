@@ -229,6 +229,15 @@ void Mesfile::clear()
     entries.clear();
 }
 
+Mesfile::Entry* Mesfile::appendEntry(const QString& line)
+{
+    QString chunk = line;
+    if (!chunk.endsWith(QLatin1Char('\n')))
+        chunk += QLatin1Char('\n');
+    entries.emplace_back(newEntry(chunk));
+    return entries.back().get();
+}
+
 QString Mesfile::trimFront(const QString& line)
 {
     int start = 0;

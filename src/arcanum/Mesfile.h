@@ -102,6 +102,8 @@ public:
     QString getHeader() const { return header; }
     void setHeader(const QString& text) { header = text; }
     void clear();
+    // Adds an entry parsed from line, as if it had been read at the end of the file.
+    Entry* appendEntry(const QString& line);
 
     // Removes spaces and tabs, and only those, from the front.
     static QString trimFront(const QString& line);
