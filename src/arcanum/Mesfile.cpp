@@ -178,7 +178,7 @@ QString Mesfile::getColumnTitle(EntryType type) const
 {
     switch (type) {
     case INDEX_COLUMN:
-        return QStringLiteral("#");
+        return tr("#");
     case COMMENT_COLUMN:
         return tr("Comment");
     case 0:

@@ -102,9 +102,9 @@ QString MesWidget::getFilename() const
 void MesWidget::updateControls()
 {
     const bool loaded = mesfile->isLoaded();
-    for (QWidget* widget : {static_cast<QWidget*>(ui->editCommentary), static_cast<QWidget*>(ui->table),
-                            static_cast<QWidget*>(ui->itemView), static_cast<QWidget*>(ui->completeLine),
-                            static_cast<QWidget*>(ui->encodingLabel), static_cast<QWidget*>(ui->encodingSelect)})
+    const std::initializer_list<QWidget*> fileControls = {ui->editCommentary, ui->table, ui->itemView,
+                                                          ui->completeLine, ui->encodingLabel, ui->encodingSelect};
+    for (QWidget* widget : fileControls)
         widget->setEnabled(loaded);
     ui->reloadButton->setEnabled(loaded && modified);
     ui->saveButton->setEnabled(loaded && modified);
