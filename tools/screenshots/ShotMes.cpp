@@ -1,11 +1,24 @@
-// The Mes tab with the first bundled message file open.
+// The Mes tab: the bundled item messages with a multi-line text selected, and a dialogue file as a table.
 #include "ShotRegistry.h"
 
 #include "MainWindow.h"
+#include "MesWidget.h"
+#include "constants.h"
 
+#include <QDir>
+#include <QTableWidget>
 #include <QTreeWidget>
 
 namespace {
+
+void selectCell(MesWidget& page, int row, int column)
+{
+    auto* table = page.findChild<QTableWidget*>(QStringLiteral("table"));
+    if (!table || row >= table->rowCount())
+        return;
+    table->setCurrentCell(row, column);
+    table->scrollToItem(table->item(row, column));
+}
 
 QWidget* messages(MainWindow& window)
 {
@@ -13,9 +26,19 @@ QWidget* messages(MainWindow& window)
     auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
     if (tree && tree->topLevelItemCount() > 0 && tree->topLevelItem(0)->childCount() > 0)
         tree->setCurrentItem(tree->topLevelItem(0)->child(0));
+    selectCell(*window.mesPage(), 7, 1);
+    return nullptr;
+}
+
+QWidget* dialogueTable(MainWindow& window)
+{
+    ShotRegistry::showTab(window, 1);
+    window.mesPage()->loadMes(QDir::current().absoluteFilePath(arcanum::DLG_DIR + QStringLiteral("sample_table.dlg")));
+    selectCell(*window.mesPage(), 1, 3);
     return nullptr;
 }
 
 const ShotRegistration shot(20, "tab-2-mes", &messages);
+const ShotRegistration dialogueShot(21, "tab-2-mes-dlg", &dialogueTable);
 
 } // namespace

@@ -1,0 +1,361 @@
+#include "Mesfile.h"
+
+#include "DialogueFile.h"
+#include "constants.h"
+
+#include <QSaveFile>
+#include <QTextCodec>
+#include <QTextStream>
+#include <QtDebug>
+
+namespace arcanum {
+
+namespace {
+
+const QByteArray UTF8_BOM = QByteArrayLiteral("\xEF\xBB\xBF");
+constexpr int UTF8_MIB = 106;
+
+bool startsEntry(const QString& line)
+{
+    return Mesfile::trimFront(line).startsWith(OPEN_CHAR);
+}
+
+// Indentation in front of an entry is layout; anywhere else it belongs to the text or to the author.
+QString entryLine(const QString& line)
+{
+    return startsEntry(line) ? Mesfile::trimFront(line) : line;
+}
+
+bool hasKnownSuffix(const QString& name)
+{
+    return name.endsWith(QLatin1String(".mes"), Qt::CaseInsensitive)
+        || name.endsWith(QLatin1String(".dlg"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+// ---- Entry ----
+
+QString Mesfile::Entry::getValidationError() const
+{
+    return valid ? NO_ERROR : validationError;
+}
+
+void Mesfile::Entry::setErrorState(const QString& message, const QString& chunk)
+{
+    valid = false;
+    validationError = message;
+    comment.clear();
+    skeleton = chunk;
+}
+
+void Mesfile::Entry::setValidState()
+{
+    valid = true;
+    validationError.clear();
+}
+
+int Mesfile::Entry::parseIndex(const QString& chunk)
+{
+    const int open = chunk.indexOf(OPEN_CHAR);
+    const int close = open < 0 ? -1 : chunk.indexOf(CLOSE_CHAR, open);
+    if (close < 0) {
+        setErrorState(tr("Entry contains no '{' or '}'"), chunk);
+        return -1;
+    }
+    bool ok = false;
+    const int index = chunk.mid(open + 1, close - open - 1).trimmed().toInt(&ok, 10);
+    if (!ok) {
+        setErrorState(tr("Index could not be parsed"), chunk);
+        return -1;
+    }
+    mesIndex = index;
+    skeleton = chunk;
+    skeleton.remove(open + 1, close - open - 1);
+    return open + 1;
+}
+
+void Mesfile::Entry::setUnmatchedOpenError(const QString& chunk, int open)
+{
+    // Everything cut out of the skeleton so far stood before open.
+    const int cut = static_cast<int>(chunk.size() - skeleton.size());
+    setErrorState(tr("'{' at index %1 has no matching '}'").arg(open + cut), chunk);
+}
+
+QString Mesfile::Entry::withoutFinalNewline(QString text)
+{
+    if (text.endsWith(QLatin1Char('\n')))
+        text.chop(1);
+    return text;
+}
+
+// ---- MesEntry ----
+
+Mesfile::MesEntry::MesEntry(const QString& chunk)
+{
+    const int indexClose = parseIndex(chunk);
+    if (indexClose < 0)
+        return;
+    const int textOpen = skeleton.indexOf(OPEN_CHAR, indexClose);
+    if (textOpen < 0) {
+        // "{5}" alone is an entry with an empty text.
+        comment = withoutFinalNewline(skeleton.mid(indexClose + 1));
+        skeleton.truncate(indexClose + 1);
+        setValidState();
+        return;
+    }
+    const int textClose = skeleton.indexOf(CLOSE_CHAR, textOpen);
+    if (textClose < 0) {
+        setUnmatchedOpenError(chunk, textOpen);
+        return;
+    }
+    text = skeleton.mid(textOpen + 1, textClose - textOpen - 1);
+    comment = withoutFinalNewline(skeleton.mid(textClose + 1));
+    skeleton = skeleton.left(textOpen + 1) + CLOSE_CHAR;
+    setValidState();
+}
+
+QString Mesfile::MesEntry::getItemAt(unsigned index) const
+{
+    if (index > 0) {
+        qWarning("Mesfile::MesEntry::getItemAt(): index > 0");
+        return OUT_OF_BOUNDS;
+    }
+    return text;
+}
+
+void Mesfile::MesEntry::setItemAt(unsigned index, const QString& newText)
+{
+    if (index > 0) {
+        qWarning("Mesfile::MesEntry::setItemAt(): index > 0");
+        return;
+    }
+    text = newText;
+}
+
+QString Mesfile::MesEntry::getInfoAbout(EntryType /*type*/) const
+{
+    return tr("Index: %1").arg(mesIndex);
+}
+
+QString Mesfile::MesEntry::getLine() const
+{
+    if (!valid)
+        return skeleton + comment;
+    QString line = skeleton;
+    const int open = line.indexOf(OPEN_CHAR);
+    if (open >= 0) {
+        const QString number = QString::number(mesIndex);
+        line.insert(open + 1, number);
+        const int indexClose = open + 1 + static_cast<int>(number.size());
+        const int textOpen = line.indexOf(OPEN_CHAR, indexClose);
+        if (textOpen >= 0)
+            line.insert(textOpen + 1, text);
+        else if (!text.isEmpty()) // a text typed into a "{5}" entry needs braces of its own
+            line.insert(indexClose + 1, OPEN_CHAR + text + CLOSE_CHAR);
+    }
+    return line + comment + QLatin1Char('\n');
+}
+
+// ---- Mesfile ----
+
+Mesfile::Mesfile(const QString& fileName)
+{
+    if (!fileName.isEmpty())
+        setFilename(fileName);
+}
+
+Mesfile::~Mesfile() = default;
+
+Mesfile* Mesfile::getInstance(const QString& fileName)
+{
+    if (fileName.endsWith(QLatin1String(".dlg"), Qt::CaseInsensitive))
+        return new DialogueFile(fileName);
+    return new Mesfile(fileName);
+}
+
+QString Mesfile::getColumnTitle(EntryType type) const
+{
+    switch (type) {
+    case INDEX_COLUMN:
+        return tr("#");
+    case COMMENT_COLUMN:
+        return tr("Comment");
+    case 0:
+        return tr("Item 1");
+    default:
+        // Item 1 is titled like item 0: the numbering the tables have always shown.
+        return type > 0 ? tr("Item %1").arg(type) : tr("Invalid col. id");
+    }
+}
+
+void Mesfile::setFilename(const QString& name)
+{
+    file.setFileName(name);
+    if (!QFile::exists(name))
+        qWarning("Chosen file doesn't exist");
+}
+
+bool Mesfile::loadFile(const QString& fileName, QTextCodec* codec)
+{
+    setFilename(fileName);
+    return load(codec);
+}
+
+Mesfile::Entry* Mesfile::getEntryAt(int position) const
+{
+    if (position < 0 || position >= getEntryCount())
+        return nullptr;
+    return entries[static_cast<size_t>(position)].get();
+}
+
+Mesfile::Entry* Mesfile::getEntryWithIndex(unsigned index) const
+{
+    auto hasIndex = [index](const std::unique_ptr<Entry>& entry) {
+        return entry->getMesIndex() >= 0 && static_cast<unsigned>(entry->getMesIndex()) == index;
+    };
+    // Files are usually numbered from 0 without gaps, so the position is worth a try first.
+    if (index < entries.size() && hasIndex(entries[index]))
+        return entries[index].get();
+    for (const auto& entry : entries) {
+        if (hasIndex(entry))
+            return entry.get();
+    }
+    return nullptr;
+}
+
+void Mesfile::clear()
+{
+    entries.clear();
+}
+
+Mesfile::Entry* Mesfile::appendEntry(const QString& line)
+{
+    QString chunk = line;
+    if (!chunk.endsWith(QLatin1Char('\n')))
+        chunk += QLatin1Char('\n');
+    entries.emplace_back(newEntry(chunk));
+    return entries.back().get();
+}
+
+QString Mesfile::trimFront(const QString& line)
+{
+    int start = 0;
+    while (start < line.size() && (line[start] == QLatin1Char(' ') || line[start] == QLatin1Char('\t')))
+        ++start;
+    return line.mid(start);
+}
+
+QString Mesfile::getDataUpToNextEntry(QTextStream& stream, bool* atEnd)
+{
+    if (stream.atEnd()) {
+        if (atEnd)
+            *atEnd = true;
+        return QString();
+    }
+    QString chunk = entryLine(stream.readLine()) + QLatin1Char('\n');
+    // The line that starts the next entry is read once too often; the stream goes back to its start.
+    qint64 position = stream.pos();
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        if (startsEntry(line))
+            break;
+        chunk += line;
+        chunk += QLatin1Char('\n');
+        position = stream.pos();
+    }
+    stream.seek(position);
+    chunk.remove(QLatin1Char('\r'));
+    if (atEnd)
+        *atEnd = stream.atEnd();
+    return chunk;
+}
+
+Mesfile::Entry* Mesfile::newEntry(QString& chunk)
+{
+    return new MesEntry(chunk);
+}
+
+bool Mesfile::load(QTextCodec* codec)
+{
+    clear();
+    header.clear();
+    loaded = false;
+    utf8Bom = false;
+    if (!file.exists()) {
+        qWarning("File doesn't exist.");
+        return false;
+    }
+    if (!hasKnownSuffix(file.fileName()))
+        qWarning("Mesfile::load(): WARNING: filename doesn'tend with .mes or .dlg");
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qWarning("Failed to open file for reading");
+        return false;
+    }
+    const QByteArray bytes = file.readAll();
+    file.close();
+    if (bytes.isEmpty())
+        return false;
+    if (!codec)
+        codec = QTextCodec::codecForMib(UTF8_MIB);
+    utf8Bom = codec->mibEnum() == UTF8_MIB && bytes.startsWith(UTF8_BOM);
+    readEntries(codec->toUnicode(bytes));
+    loaded = true;
+    return true;
+}
+
+void Mesfile::readEntries(const QString& decoded)
+{
+    QString text = decoded;
+    QTextStream stream(&text, QIODevice::ReadOnly);
+    bool atEnd = false;
+    QString first = getDataUpToNextEntry(stream, &atEnd);
+    if (first.isEmpty())
+        qWarning("no data in file");
+    else if (trimFront(first).startsWith(OPEN_CHAR))
+        entries.emplace_back(newEntry(first));
+    else
+        header = first;
+    while (!atEnd) {
+        QString chunk = getDataUpToNextEntry(stream, &atEnd);
+        if (!chunk.isEmpty())
+            entries.emplace_back(newEntry(chunk));
+    }
+}
+
+QString Mesfile::buildText()
+{
+    // The header keeps its Windows line ends in memory too: a second save of the same object
+    // doubles the "\r", which is how the editor has always behaved.
+    header.replace(QLatin1String("\n"), WIN_ENDLINE);
+    QString text = header;
+    if (!header.isEmpty() && !header.endsWith(QLatin1Char('\n')))
+        text += WIN_ENDLINE;
+    for (const auto& entry : entries) {
+        QString line = entry->getLine();
+        line.replace(QLatin1String("\n"), WIN_ENDLINE);
+        text += line;
+    }
+    return text;
+}
+
+bool Mesfile::save(const QString& fileName, QTextCodec* codec)
+{
+    if (!codec)
+        codec = QTextCodec::codecForMib(UTF8_MIB);
+    QByteArray bytes = codec->fromUnicode(buildText());
+    if (utf8Bom && codec->mibEnum() == UTF8_MIB)
+        bytes.prepend(UTF8_BOM);
+    QSaveFile out(fileName);
+    if (!out.open(QIODevice::WriteOnly)) {
+        qWarning("Failed to open file for writing");
+        return false;
+    }
+    if (out.write(bytes) != bytes.size() || !out.commit()) {
+        qWarning("In Mesfile::save(): %s", qPrintable(out.errorString()));
+        return false;
+    }
+    return true;
+}
+
+} // namespace arcanum
