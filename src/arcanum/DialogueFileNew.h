@@ -1,0 +1,291 @@
+#pragma once
+
+#include "DialogueCatalogue.h"
+#include "constants.h"
+
+#include <QExplicitlySharedDataPointer>
+#include <QList>
+#include <QPair>
+#include <QSharedData>
+#include <QStringList>
+#include <QTextStream>
+#include <QVector>
+
+#include <memory>
+#include <optional>
+
+class QFile;
+
+namespace arcanum {
+
+// A dialogue file (.dlg) read into NPC lines (what the character says) and PC lines (the player's
+// possible answers, with the tests that offer them). Every entry is seven brace items:
+//   {index}{text}{gender | female text}{intelligence | empty}{tests}{response line}{results}
+// A defective line is kept with its problems recorded instead of rejecting the file. Files are read and
+// written as Windows-1251, the code page of the game's texts, which maps every byte to a character and back.
+//
+// Lines are shared with the editor's forms through QExplicitlySharedDataPointer. Their setters mark a line
+// edited only when the value really changes; an unedited line with problems is written back exactly as it
+// was read, an edited one is written from its fields.
+class DialogueFileNew
+{
+public:
+    // Which player a PC line is offered to.
+    enum Gender : int { GENDER_EITHER = -1, GENDER_FEMALE = 0, GENDER_MALE = 1 };
+
+    // The problems of one line, and the line's entry text as it was read (from its first "{" on).
+    class LineErrors
+    {
+    public:
+        QStringList messages;
+        QString rawText;
+    };
+
+    // The tests or results of a line: records in file order, the problems met while parsing the text,
+    // and the text as read. That text is what gets written until different records replace it, so an
+    // untouched list keeps its spelling ("QU 5 2", extra blanks) and anything that could not be parsed.
+    class OpcodeField
+    {
+    public:
+        const QVector<dlg::TestOrResultData>& records() const { return mRecords; }
+        const QStringList& errors() const { return mErrors; }
+        bool isEdited() const { return !mReadText.has_value(); }
+        // Replaces the records; returns false and keeps the text as read when they are the same.
+        bool setRecords(const QVector<dlg::TestOrResultData>& records);
+        QString toString() const;
+
+    protected:
+        OpcodeField() = default;
+        OpcodeField(const QString& text, const dlg::TestOrResultTypes* allowed);
+
+    private:
+        void parsePiece(const QString& piece, const dlg::TestOrResultTypes& allowed);
+        bool parseArguments(const QString& arguments, const QString& code, dlg::TestOrResultData& record);
+
+        QVector<dlg::TestOrResultData> mRecords;
+        QStringList mErrors;
+        std::optional<QString> mReadText;
+    };
+
+    class Line : public QSharedData
+    {
+    public:
+        // Results parsed against the given types (the PC or the NPC result chooser).
+        class DialogueResultField : public OpcodeField
+        {
+        public:
+            DialogueResultField() = default;
+            DialogueResultField(const QString& text, const dlg::TestOrResultTypes* allowed);
+        };
+
+        virtual ~Line();
+        Line(const Line&) = delete;
+        Line& operator=(const Line&) = delete;
+
+        // The entry as save writes it, without line end ("\n" inside texts stays "\n").
+        virtual QString getCompleteLineText() const = 0;
+
+        bool operator<(const Line& other) const { return mIndex < other.mIndex; }
+        bool operator>(const Line& other) const { return mIndex > other.mIndex; }
+
+        int index() const { return mIndex; }
+        void setIndex(int index);
+        const QString& text() const { return mText; }
+        void setText(const QString& text);
+        // Whatever followed the entry's seventh "}" on its line (a comment, usually nothing).
+        const QString& trailing() const { return mTrailing; }
+
+        // Null while the line has no problem. The messages include those of the tests and results.
+        const LineErrors* errors() const { return mErrors.get(); }
+        void setError(const QString& message, const QStringList& items, const QString& trailing);
+
+        bool isEdited() const { return mEdited; }
+        // From now on the line is written from its fields, even if it had problems when read.
+        void markEdited() { mEdited = true; }
+
+    protected:
+        Line(int index, const QString& text, const QString& trailing, const QString& readText);
+        // True when save must write the text as read: the line has problems and nobody edited it.
+        bool writesReadText() const { return mErrors && !mEdited; }
+        // "{index}{text}" followed by the given items in braces and the trailing text.
+        QString joinItems(const QStringList& itemsAfterText) const;
+        bool hasAllItems(const QStringList& items, const QString& trailing);
+        void recordFieldErrors(const OpcodeField& field, const QStringList& items, const QString& trailing);
+        bool parseRequiredNumber(const QString& item, int& value, const QString& emptyMessage,
+                                 const QString& invalidMessage, const QStringList& items, const QString& trailing);
+        template <typename T>
+        void change(T& field, const T& value)
+        {
+            if (field != value) {
+                field = value;
+                mEdited = true;
+            }
+        }
+        void changeRecords(OpcodeField& field, const QVector<dlg::TestOrResultData>& records);
+
+    private:
+        int mIndex;
+        QString mText;
+        QString mTrailing;
+        QString mReadText;
+        std::unique_ptr<LineErrors> mErrors;
+        bool mEdited = false;
+    };
+
+    // A response the player may choose.
+    class PCLine : public Line
+    {
+    public:
+        class DialogueTestField : public OpcodeField
+        {
+        public:
+            explicit DialogueTestField(const QString& text = QString());
+        };
+        class PCResultField : public DialogueResultField
+        {
+        public:
+            explicit PCResultField(const QString& text = QString());
+        };
+
+        // A new, empty line.
+        explicit PCLine(int index);
+        // items: the six items after the index, as read; readText: the entry as read, kept for save.
+        PCLine(int index, const QStringList& items, const QString& trailing, const QString& readText = QString());
+
+        QString getCompleteLineText() const override;
+
+        Gender gender() const { return mGender; }
+        void setGender(Gender gender) { change(mGender, gender); }
+        // Negative: a maximum; otherwise a minimum.
+        int intelligence() const { return mIntelligence; }
+        void setIntelligence(int intelligence) { change(mIntelligence, intelligence); }
+        const DialogueTestField& tests() const { return mTests; }
+        void setTests(const QVector<dlg::TestOrResultData>& records) { changeRecords(mTests, records); }
+        int responseLine() const { return mResponseLine; }
+        void setResponseLine(int line) { change(mResponseLine, line); }
+        const PCResultField& results() const { return mResults; }
+        void setResults(const QVector<dlg::TestOrResultData>& records) { changeRecords(mResults, records); }
+
+    private:
+        void parseItems(const QStringList& items, const QString& trailing);
+
+        Gender mGender = GENDER_EITHER;
+        int mIntelligence = 0;
+        DialogueTestField mTests;
+        int mResponseLine = 0;
+        PCResultField mResults;
+    };
+
+    // What the character says.
+    class NPCLine : public Line
+    {
+    public:
+        class NPCResultField : public DialogueResultField
+        {
+        public:
+            explicit NPCResultField(const QString& text = QString());
+        };
+
+        // A new, empty line without response line.
+        explicit NPCLine(int index);
+        NPCLine(int index, const QStringList& items, const QString& trailing, const QString& readText = QString());
+
+        QString getCompleteLineText() const override;
+
+        const QString& femaleText() const { return mFemaleText; }
+        void setFemaleText(const QString& text) { change(mFemaleText, text); }
+        // The tests item of an NPC line is not interpreted; it is kept as read.
+        const QString& testsText() const { return mTestsText; }
+        void setTestsText(const QString& text) { change(mTestsText, text); }
+        // -1: no response line (an empty item).
+        int responseLine() const { return mResponseLine; }
+        void setResponseLine(int line) { change(mResponseLine, line); }
+        const NPCResultField& results() const { return mResults; }
+        void setResults(const QVector<dlg::TestOrResultData>& records) { changeRecords(mResults, records); }
+
+    private:
+        void parseItems(const QStringList& items, const QString& trailing);
+
+        QString mFemaleText;
+        QString mTestsText;
+        int mResponseLine = 0;
+        NPCResultField mResults;
+    };
+
+    using NPCLinePointer = QExplicitlySharedDataPointer<NPCLine>;
+    using PCLinePointer = QExplicitlySharedDataPointer<PCLine>;
+
+    // An empty model bound to no file.
+    DialogueFileNew();
+    // Binds the model to the file's name; reads nothing. The file object itself is not kept.
+    explicit DialogueFileNew(const QFile* file);
+
+    const QString& fileName() const { return mFileName; }
+
+    // Reads the bound file, replacing the lines; false when it does not exist or cannot be opened.
+    bool load();
+    // Reads entries until the end or until an entry cannot be read, replacing the lines.
+    void read(QTextStream& stream);
+    // Writes every line, in index order, through a temporary file that replaces the file only when
+    // complete; false (and the file untouched) when it cannot be written.
+    bool save(QFile* file) const;
+    // What save writes, as text and as the bytes of the file.
+    QString toText() const;
+    QByteArray toBytes() const;
+
+    // Lines in file order until someone sorts them; save expects index order (see sortLines).
+    QList<NPCLinePointer>& npcLines() { return mNpcLines; }
+    const QList<NPCLinePointer>& npcLines() const { return mNpcLines; }
+    QList<PCLinePointer>& pcLines() { return mPcLines; }
+    const QList<PCLinePointer>& pcLines() const { return mPcLines; }
+    // The first line with that index, or a null pointer.
+    PCLinePointer getPCLine(int index) const;
+    NPCLinePointer getNPCLine(int index) const;
+    // Sorts both lists by index, keeping the file order of equal indices.
+    void sortLines();
+
+    // The rest of the file from the entry where reading stopped (a short last entry or an index that is
+    // not a number): not shown as lines, but written back after them so saving loses nothing.
+    const QString& unreadText() const { return mUnreadText; }
+
+    // Reads the next entry: its items (at most seven) and the text after the seventh "}" on its line.
+    static QPair<QStringList, QString> getNextEntry(QTextStream& stream, bool* atEnd);
+    // Decides the kind of an entry from its items without the index: an empty fourth item means NPC.
+    static bool isNPCLine(const QStringList& items);
+    template <typename T>
+    static bool lessThan(const QExplicitlySharedDataPointer<T>& a, const QExplicitlySharedDataPointer<T>& b)
+    {
+        return *a < *b;
+    }
+    // Every line is accepted; its problems are recorded while it is parsed.
+    static bool validateLine(const NPCLine&) { return true; }
+    static bool validateLine(const PCLine&) { return true; }
+
+    template <typename T>
+    void writeLine(QTextStream& out, const QExplicitlySharedDataPointer<T>& line, const QString& prefix) const
+    {
+        out << prefix << withWindowsLineEnds(line->getCompleteLineText()) << WIN_ENDLINE;
+    }
+
+private:
+    // One entry as read: its items, the text after its seventh "}", all the physical lines read for
+    // it (joined by "\n") and where its first "{" lies in them (-1: none).
+    struct Entry
+    {
+        QStringList items;
+        QString trailing;
+        QString text;
+        int start = -1;
+    };
+    static Entry nextEntry(QTextStream& stream, bool* atEnd);
+    bool readEntry(QTextStream& stream, bool* atEnd);
+    bool keepUnread(const QString& entryText, QTextStream& stream);
+    static QString withWindowsLineEnds(QString text);
+
+    QString mFileName;
+    QList<NPCLinePointer> mNpcLines;
+    QList<PCLinePointer> mPcLines;
+    QString mUnreadText;
+};
+
+} // namespace arcanum

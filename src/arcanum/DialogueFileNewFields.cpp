@@ -1,0 +1,110 @@
+// The tests and results of dialogue lines: comma-separated opcodes with their arguments.
+#include "DialogueFileNew.h"
+
+namespace arcanum {
+
+namespace {
+
+bool parseNumber(const QString& text, qint32& value)
+{
+    bool ok = false;
+    const int number = text.trimmed().toInt(&ok, 10);
+    if (ok)
+        value = number;
+    return ok;
+}
+
+} // namespace
+
+DialogueFileNew::OpcodeField::OpcodeField(const QString& text, const dlg::TestOrResultTypes* allowed)
+    : mReadText(text)
+{
+    if (!allowed) {
+        mErrors << QStringLiteral("ALL_RESULTS == NULL");
+        return;
+    }
+    const QStringList pieces = text.trimmed().split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& piece : pieces)
+        parsePiece(piece.trimmed(), *allowed);
+}
+
+void DialogueFileNew::OpcodeField::parsePiece(const QString& piece, const dlg::TestOrResultTypes& allowed)
+{
+    const QString code = piece.left(2);
+    const dlg::TestOrResultType* type = dlg::findType(allowed, code);
+    if (!type) {
+        mErrors << QStringLiteral("opcode '%1' is unknown").arg(code);
+        return;
+    }
+    dlg::TestOrResultData record(type);
+    if (parseArguments(piece.mid(2), code, record))
+        mRecords << record;
+}
+
+// A piece whose arguments cannot be read is reported and left out of the records; an unedited field
+// still writes it back as it was read.
+bool DialogueFileNew::OpcodeField::parseArguments(const QString& arguments, const QString& code,
+                                                  dlg::TestOrResultData& record)
+{
+    const auto failed = [this, &code](int argument) {
+        mErrors << QStringLiteral("Argument %1 of opcode %2 could not be parsed").arg(QString::number(argument), code);
+        return false;
+    };
+    switch (record.type->argumentCount()) {
+    case 0:
+        return true;
+    case 1:
+        return parseNumber(arguments, record.value1) || failed(1);
+    case 2: {
+        const QStringList values = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const bool first = parseNumber(values.value(0), record.value1) || failed(1);
+        const bool second = parseNumber(values.value(1), record.value2) || failed(2);
+        return first && second;
+    }
+    default:
+        mErrors << QStringLiteral("Error this else should never be reached");
+        return false;
+    }
+}
+
+bool DialogueFileNew::OpcodeField::setRecords(const QVector<dlg::TestOrResultData>& records)
+{
+    if (records == mRecords)
+        return false;
+    mRecords = records;
+    mReadText.reset();
+    return true;
+}
+
+QString DialogueFileNew::OpcodeField::toString() const
+{
+    if (mReadText)
+        return *mReadText;
+    QStringList pieces;
+    for (const dlg::TestOrResultData& record : mRecords)
+        pieces << record.toString();
+    return pieces.join(QLatin1String(", "));
+}
+
+DialogueFileNew::Line::DialogueResultField::DialogueResultField(const QString& text,
+                                                                const dlg::TestOrResultTypes* allowed)
+    : OpcodeField(text, allowed)
+{
+}
+
+DialogueFileNew::PCLine::DialogueTestField::DialogueTestField(const QString& text)
+    : OpcodeField(text, &dlg::test::ALL_TESTS)
+{
+}
+
+DialogueFileNew::PCLine::PCResultField::PCResultField(const QString& text)
+    : DialogueResultField(text, &dlg::result::ALL_PC_RESULTS)
+{
+}
+
+DialogueFileNew::NPCLine::NPCResultField::NPCResultField(const QString& text)
+    : DialogueResultField(text, &dlg::result::ALL_NPC_RESULTS)
+{
+}
+
+} // namespace arcanum

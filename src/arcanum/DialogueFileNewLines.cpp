@@ -1,0 +1,187 @@
+// The lines of a dialogue file: parsed from an entry's items, written back as an entry.
+#include "DialogueFileNew.h"
+
+namespace arcanum {
+
+namespace {
+
+constexpr int ITEM_COUNT = 6; // items of an entry after its index
+
+QString braced(const QString& item)
+{
+    return OPEN_CHAR + item + CLOSE_CHAR;
+}
+
+QString itemOrEmpty(const QStringList& items, int i)
+{
+    return items.size() == ITEM_COUNT ? items.at(i) : QString();
+}
+
+} // namespace
+
+DialogueFileNew::Line::Line(int index, const QString& text, const QString& trailing, const QString& readText)
+    : mIndex(index)
+    , mText(text)
+    , mTrailing(trailing)
+    , mReadText(readText)
+{
+}
+
+DialogueFileNew::Line::~Line() = default;
+
+void DialogueFileNew::Line::setIndex(int index)
+{
+    change(mIndex, index);
+}
+
+void DialogueFileNew::Line::setText(const QString& text)
+{
+    change(mText, text);
+}
+
+// The entry as read is what an unedited defective line writes back; a line made in code has none,
+// so its entry is rebuilt from the items.
+void DialogueFileNew::Line::setError(const QString& message, const QStringList& items, const QString& trailing)
+{
+    if (!mErrors)
+        mErrors = std::make_unique<LineErrors>();
+    mErrors->messages << message;
+    if (!mReadText.isEmpty()) {
+        mErrors->rawText = mReadText;
+    } else {
+        mErrors->rawText = braced(QString::number(mIndex));
+        for (const QString& item : items)
+            mErrors->rawText += braced(item);
+        mErrors->rawText += trailing;
+    }
+    qWarning("Error: %s %s", qUtf8Printable(message), qUtf8Printable(mErrors->rawText));
+}
+
+QString DialogueFileNew::Line::joinItems(const QStringList& itemsAfterText) const
+{
+    QString text = braced(QString::number(mIndex)) + braced(mText);
+    for (const QString& item : itemsAfterText)
+        text += braced(item);
+    return text + mTrailing;
+}
+
+void DialogueFileNew::Line::recordFieldErrors(const OpcodeField& field, const QStringList& items,
+                                              const QString& trailing)
+{
+    for (const QString& message : field.errors())
+        setError(message, items, trailing);
+}
+
+// Empty and unreadable numbers are different mistakes with different messages.
+bool DialogueFileNew::Line::parseRequiredNumber(const QString& item, int& value, const QString& emptyMessage,
+                                                const QString& invalidMessage, const QStringList& items,
+                                                const QString& trailing)
+{
+    const QString text = item.trimmed();
+    bool ok = false;
+    const int number = text.toInt(&ok, 10);
+    if (ok)
+        value = number;
+    else
+        setError(text.isEmpty() ? emptyMessage : invalidMessage, items, trailing);
+    return ok;
+}
+
+// A line without its six items keeps the defaults of its fields.
+bool DialogueFileNew::Line::hasAllItems(const QStringList& items, const QString& trailing)
+{
+    if (items.size() == ITEM_COUNT)
+        return true;
+    setError(QStringLiteral("Number of items on this line doesn't match the normal number of items"), items, trailing);
+    return false;
+}
+
+void DialogueFileNew::Line::changeRecords(OpcodeField& field, const QVector<dlg::TestOrResultData>& records)
+{
+    if (field.setRecords(records))
+        mEdited = true;
+}
+
+DialogueFileNew::PCLine::PCLine(int index)
+    : Line(index, QString(), QString(), QString())
+{
+}
+
+DialogueFileNew::PCLine::PCLine(int index, const QStringList& items, const QString& trailing,
+                                const QString& readText)
+    : Line(index, itemOrEmpty(items, 0), trailing, readText)
+{
+    parseItems(items, trailing);
+}
+
+void DialogueFileNew::PCLine::parseItems(const QStringList& items, const QString& trailing)
+{
+    if (!hasAllItems(items, trailing))
+        return;
+    // Any other gender text means "either", as the game reads it.
+    const QString gender = items.at(1).trimmed();
+    if (gender == QLatin1String("0"))
+        mGender = GENDER_FEMALE;
+    else if (gender == QLatin1String("1"))
+        mGender = GENDER_MALE;
+    parseRequiredNumber(items.at(2), mIntelligence, QStringLiteral("Intelligence item must not be empty"),
+                        QStringLiteral("Intelligence requirements could not be parsed"), items, trailing);
+    mTests = DialogueTestField(items.at(3));
+    recordFieldErrors(mTests, items, trailing);
+    parseRequiredNumber(items.at(4), mResponseLine, QStringLiteral("Response line must not be empty"),
+                        QStringLiteral("Response line could not be parsed"), items, trailing);
+    mResults = PCResultField(items.at(5));
+    recordFieldErrors(mResults, items, trailing);
+}
+
+QString DialogueFileNew::PCLine::getCompleteLineText() const
+{
+    if (writesReadText())
+        return errors()->rawText;
+    QString gender;
+    if (mGender != GENDER_EITHER)
+        gender = mGender == GENDER_FEMALE ? QStringLiteral("0") : QStringLiteral("1");
+    return joinItems({gender, QString::number(mIntelligence), mTests.toString(), QString::number(mResponseLine),
+                      mResults.toString()});
+}
+
+// A new line says its text and waits for the player's answer: no response line of its own.
+DialogueFileNew::NPCLine::NPCLine(int index)
+    : Line(index, QString(), QString(), QString())
+    , mResponseLine(-1)
+{
+}
+
+DialogueFileNew::NPCLine::NPCLine(int index, const QStringList& items, const QString& trailing,
+                                  const QString& readText)
+    : Line(index, itemOrEmpty(items, 0), trailing, readText)
+{
+    parseItems(items, trailing);
+}
+
+void DialogueFileNew::NPCLine::parseItems(const QStringList& items, const QString& trailing)
+{
+    if (!hasAllItems(items, trailing))
+        return;
+    mFemaleText = items.at(1);
+    if (!items.at(2).trimmed().isEmpty())
+        setError(QStringLiteral("{I} is not empty (3rd item) -> no valid NPC line"), items, trailing);
+    mTestsText = items.at(3);
+    if (items.at(4).trimmed().isEmpty())
+        mResponseLine = -1;
+    else
+        parseRequiredNumber(items.at(4), mResponseLine, QString(),
+                            QStringLiteral("{R} (5th item) no valid number (but not empty)"), items, trailing);
+    mResults = NPCResultField(items.at(5));
+    recordFieldErrors(mResults, items, trailing);
+}
+
+QString DialogueFileNew::NPCLine::getCompleteLineText() const
+{
+    if (writesReadText())
+        return errors()->rawText;
+    const QString response = mResponseLine == -1 ? QString() : QString::number(mResponseLine);
+    return joinItems({mFemaleText, QString(), mTestsText, response, mResults.toString()});
+}
+
+} // namespace arcanum
