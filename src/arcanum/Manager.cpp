@@ -41,46 +41,45 @@ void Manager::findFiles(const QString& subDir, const QString& pattern, QStringLi
     findFiles(subDir, QStringList(pattern), result);
 }
 
+void Manager::reload(QStringList& list, const QString& subDir, const QString& pattern)
+{
+    list.clear();
+    findFiles(subDir, pattern, list);
+}
+
 void Manager::reloadScr()
 {
-    scripts.clear();
-    findFiles(SCRIPTS_DIR, QStringLiteral("*.scr"), scripts);
+    reload(scripts, SCRIPTS_DIR, QStringLiteral("*.scr"));
 }
 
 void Manager::reloadMes()
 {
-    messages.clear();
-    findFiles(MES_DIR, QStringLiteral("*.mes"), messages);
+    reload(messages, MES_DIR, QStringLiteral("*.mes"));
 }
 
 void Manager::reloadRules()
 {
-    rules.clear();
-    findFiles(RULES_DIR, QStringLiteral("*.mes"), rules);
+    reload(rules, RULES_DIR, QStringLiteral("*.mes"));
 }
 
 void Manager::reloadSemes()
 {
-    semes.clear();
-    findFiles(SEMES_DIR, QStringLiteral("*.mes"), semes);
+    reload(semes, SEMES_DIR, QStringLiteral("*.mes"));
 }
 
 void Manager::reloadOemes()
 {
-    oemes.clear();
-    findFiles(OEMES_DIR, QStringLiteral("*.mes"), oemes);
+    reload(oemes, OEMES_DIR, QStringLiteral("*.mes"));
 }
 
 void Manager::reloadDlg()
 {
-    dialogues.clear();
-    findFiles(DLG_DIR, QStringLiteral("*.dlg"), dialogues);
+    reload(dialogues, DLG_DIR, QStringLiteral("*.dlg"));
 }
 
 void Manager::reloadProtos()
 {
-    prototypes.clear();
-    findFiles(PROTO_DIR, QStringLiteral("*.pro"), prototypes);
+    reload(prototypes, PROTO_DIR, QStringLiteral("*.pro"));
 }
 
 void Manager::reloadAll()

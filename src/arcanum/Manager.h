@@ -40,6 +40,8 @@ public:
     void reloadAll();
 
 private:
+    void reload(QStringList& list, const QString& subDir, const QString& pattern);
+
     QDir baseDir;
 };
 
