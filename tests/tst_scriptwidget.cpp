@@ -143,6 +143,17 @@ private slots:
         QCOMPARE(page.rows().at(0)->findChild<TokenEditorObj*>()->count(), Script::ObjectTypeCount);
     }
 
+    void rowsMeasureInThePageFont()
+    {
+        QWidget window;
+        window.setFont(QFont(QStringLiteral("DejaVu Sans"), 22));
+        ScriptWidget page(&window);
+        QVERIFY(page.loadScript(writeGuard()));
+        auto* keyword = page.rows().at(2)->findChild<QLabel*>(QStringLiteral("labelType"));
+        QCOMPARE(keyword->font().pointSize(), 22);
+        QVERIFY(keyword->width() >= keyword->fontMetrics().horizontalAdvance(QStringLiteral("ELSE")));
+    }
+
     void spinEditReachesFileAfterSave()
     {
         const QString path = writeGuard();

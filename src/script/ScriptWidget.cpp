@@ -90,7 +90,8 @@ void ScriptWidget::updateCode()
 {
     const int scrolled = ui->scrollArea->verticalScrollBar()->value();
     clearWidgets();
-    auto* content = new QWidget;
+    auto* content = new QWidget(this);
+    content->hide();
     content->setObjectName(QStringLiteral("scrollContents"));
     grid = new QGridLayout(content);
     grid->setObjectName(QStringLiteral("gridRows"));
