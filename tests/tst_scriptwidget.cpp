@@ -197,6 +197,21 @@ private slots:
         QCOMPARE(FormatChecks::readFile(path), file);
     }
 
+    void failedSaveKeepsEdits()
+    {
+        QVERIFY(QDir(dir.path()).mkpath(QStringLiteral("gone")));
+        ScriptWidget page;
+        QVERIFY(page.loadScript(writeGuard(QStringLiteral("gone/00015guard.scr"))));
+        QVERIFY(QDir(dir.filePath(QStringLiteral("gone"))).removeRecursively());
+        page.rows().at(0)->findChild<QSpinBox*>()->setValue(3);
+        ScriptedAnswerer answers;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^ScriptWidget::on_buttonSave_clicked\\(\\):")));
+        saveWith(page, answers, QMessageBox::Yes);
+        QCOMPARE(answers.last(QStringLiteral("message"))->text, QStringLiteral("Error saving file"));
+        QVERIFY(page.isModified());
+        QVERIFY(page.findChild<QPushButton*>(QStringLiteral("buttonSave"))->isEnabled());
+    }
+
     void numberTypeButtonChangesType()
     {
         ScriptWidget page;

@@ -6,6 +6,7 @@
 #include "ui_ScriptWidget.h"
 
 #include <QGridLayout>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 using arcanum::Script;
@@ -88,6 +89,7 @@ void ScriptWidget::clearWidgets()
 // for long scripts than adding them one by one to the shown listing.
 void ScriptWidget::updateCode()
 {
+    const QScopedValueRollback<bool> filling(updating, true);
     const int scrolled = ui->scrollArea->verticalScrollBar()->value();
     clearWidgets();
     auto* content = new QWidget(this);
@@ -135,6 +137,7 @@ void ScriptWidget::addRow(const Script::Tokens& tokens, int line, Script::LineTy
 
 void ScriptWidget::updateHeader()
 {
+    const QScopedValueRollback<bool> filling(updating, true);
     const bool loaded = script.getId() != -1;
     ui->editDesc->setText(loaded ? QString::fromLatin1(script.getHeader().desc()) : QString());
 }
@@ -198,6 +201,7 @@ void ScriptWidget::on_buttonSave_clicked()
     if (desc != script.getHeader().desc())
         script.getHeader().setDesc(desc);
     if (!script.save(path)) {
+        qWarning("ScriptWidget::on_buttonSave_clicked(): could not write %s", qUtf8Printable(path));
         Prompt::message(this, QMessageBox::Critical, tr("Save"), tr("Error saving file"));
         return;
     }
@@ -207,6 +211,8 @@ void ScriptWidget::on_buttonSave_clicked()
 
 void ScriptWidget::on_editDesc_textEdited(const QString& text)
 {
+    if (updating)
+        return;
     script.getHeader().setDesc(text.toLatin1().toStdString());
     markModified();
 }
@@ -252,6 +258,8 @@ void ScriptWidget::onLineToChange(TokensWidget* row)
 
 void ScriptWidget::onTokenChanged(TokensWidget* row)
 {
+    if (updating)
+        return;
     Script::Statement* statement = script.getStatement(row->getLine(), row->getlineType());
     if (!statement)
         return;

@@ -66,6 +66,8 @@ private:
     arcanum::Script script;
     QString path;
     bool modified = false;
+    // Set while rows and header are filled from the script, so nothing they emit counts as an edit.
+    bool updating = false;
     QList<TokensWidget*> rowWidgets;
     QGridLayout* grid = nullptr;
     QWidget* filler = nullptr;
