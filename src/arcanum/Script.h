@@ -108,6 +108,8 @@ public:
 
     Script() = default;
 
+    // False when the file name does not begin with a script number or the file cannot be opened.
+    // A short file loads as far as it goes; what it lacks reads as zero.
     bool load(const QString& path);
     // Builds the whole file in memory and replaces path only when all of it was written.
     bool save(const QString& path) const;
@@ -115,6 +117,7 @@ public:
     bool saveHeader(std::ostream& out) const;
     // Reads only the header of SCRIPTS_DIR + name.
     bool loadHeader(const QString& name);
+    // The header and the first lineCount lines, as save writes them.
     QByteArray toBytes() const;
 
     static int idFromFilename(const QString& name);

@@ -15,7 +15,6 @@ class Reader
 public:
     explicit Reader(const QByteArray& bytes) : data(bytes) {}
 
-    bool atEnd() const { return pos >= data.size(); }
     qsizetype remaining() const { return data.size() - pos; }
 
     // False when the field was not there whole.
