@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QByteArray>
+#include <QtEndian>
+
+#include <cstring>
+
+// Little-endian fields of the script format, read from and written to memory buffers.
+namespace arcanum::scriptbytes {
+
+// Reads fields one after another. Where the buffer ends inside a field, the bytes it still has
+// replace the front of the field and the rest keeps what was there, as if read straight into memory.
+class Reader
+{
+public:
+    explicit Reader(const QByteArray& bytes) : data(bytes) {}
+
+    qsizetype remaining() const { return data.size() - pos; }
+
+    // False when the field was not there whole.
+    bool readInt32(qint32& value)
+    {
+        char bytes[4];
+        qToLittleEndian(value, bytes);
+        const bool whole = readBytes(bytes, 4);
+        value = qFromLittleEndian<qint32>(bytes);
+        return whole;
+    }
+
+    bool readByte(quint8& value)
+    {
+        char byte = static_cast<char>(value);
+        const bool whole = readBytes(&byte, 1);
+        value = static_cast<quint8>(byte);
+        return whole;
+    }
+
+    // Copies up to size bytes into the front of out; false when fewer were left.
+    bool readBytes(char* out, int size)
+    {
+        const qsizetype n = qMin<qsizetype>(size, remaining());
+        if (n > 0)
+            std::memcpy(out, data.constData() + pos, static_cast<size_t>(n));
+        pos += qMax<qsizetype>(n, 0);
+        return n == size;
+    }
+
+private:
+    const QByteArray& data;
+    qsizetype pos = 0;
+};
+
+inline void appendInt32(QByteArray& out, qint32 value)
+{
+    char bytes[4];
+    qToLittleEndian(value, bytes);
+    out.append(bytes, 4);
+}
+
+} // namespace arcanum::scriptbytes
