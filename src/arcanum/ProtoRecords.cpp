@@ -37,6 +37,14 @@ void Proto::Sparse::setMask(std::uint64_t bits)
     maskHigh = static_cast<std::uint32_t>(bits >> 32);
 }
 
+void Proto::Sparse::makePresent(std::uint32_t usualElementSize)
+{
+    if (isPresent())
+        return;
+    present = 1;
+    elementSize = usualElementSize;
+}
+
 bool Proto::Sparse::refuseCount(ibytestream& in, std::uint64_t room) const
 {
     std::ostringstream why;

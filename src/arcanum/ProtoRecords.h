@@ -23,6 +23,9 @@ public:
     bool isPresent() const { return present != 0; }
     std::uint64_t mask() const { return static_cast<std::uint64_t>(maskHigh) << 32 | maskLow; }
     void setMask(std::uint64_t bits);
+    // A present record keeps its presence byte and element size; an absent one becomes present
+    // with the usual element size.
+    void makePresent(std::uint32_t usualElementSize);
 
     std::uint8_t present = 0;
     std::uint32_t elementSize = 0;

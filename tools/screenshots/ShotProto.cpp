@@ -1,17 +1,67 @@
-// The Proto tab with the first bundled prototype open.
+// The Proto tab with bundled prototypes open: the weapon at the top of its form and scrolled to the
+// weapon's own group, then an armour and a wall.
 #include "ShotRegistry.h"
 
 #include "MainWindow.h"
 
+#include <QGroupBox>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+
 namespace {
 
-QWidget* proto(MainWindow& window)
+void openPrototype(MainWindow& window, const QString& name)
 {
     ShotRegistry::showTab(window, 4);
-    ShotRegistry::selectFirst(window, "protoList");
+    auto* list = window.findChild<QListWidget*>(QStringLiteral("protoList"));
+    if (!list)
+        return;
+    const QList<QListWidgetItem*> found = list->findItems(name, Qt::MatchExactly);
+    if (!found.isEmpty())
+        list->setCurrentItem(found.first());
+}
+
+// Scrolls the form so the named group is at the top.
+void scrollTo(MainWindow& window, const char* groupName)
+{
+    auto* scroll = window.findChild<QScrollArea*>(QStringLiteral("scrollArea"));
+    auto* group = window.findChild<QGroupBox*>(QString::fromLatin1(groupName));
+    if (!scroll || !group)
+        return;
+    ShotRegistry::settle();
+    scroll->verticalScrollBar()->setValue(group->y() - 8);
+}
+
+QWidget* weapon(MainWindow& window)
+{
+    openPrototype(window, QStringLiteral("weapon_sword.pro"));
     return nullptr;
 }
 
-const ShotRegistration shot(50, "tab-5-proto", &proto);
+QWidget* weaponOwnGroup(MainWindow& window)
+{
+    openPrototype(window, QStringLiteral("weapon_sword.pro"));
+    scrollTo(window, "weaponGroup");
+    return nullptr;
+}
+
+QWidget* armour(MainWindow& window)
+{
+    openPrototype(window, QStringLiteral("armor_leather.pro"));
+    scrollTo(window, "armorGroup");
+    return nullptr;
+}
+
+QWidget* wall(MainWindow& window)
+{
+    openPrototype(window, QStringLiteral("wall_stone.pro"));
+    return nullptr;
+}
+
+const ShotRegistration weaponShot(50, "tab-5-proto", &weapon);
+const ShotRegistration weaponGroupShot(51, "tab-5-proto-weapon", &weaponOwnGroup);
+const ShotRegistration armourShot(52, "tab-5-proto-armor", &armour);
+const ShotRegistration wallShot(53, "tab-5-proto-wall", &wall);
 
 } // namespace
