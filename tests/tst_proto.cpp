@@ -470,6 +470,9 @@ private slots:
         const std::string missing = local(path(QStringLiteral("nothing.pro")));
         QCOMPARE(captureOutput([&] { proto.load(missing); }), "Proto::load() failed: can't open " + missing + "\n");
         QVERIFY(!proto.isLoaded());
+        const std::string folder = local(dir.path());
+        QCOMPARE(captureOutput([&] { proto.load(folder); }), "Proto::load() failed: can't open " + folder + "\n");
+        QVERIFY(!proto.isLoaded());
     }
 
     void unknownItemTypeKeepsThePath()

@@ -300,16 +300,19 @@ private slots:
         fillWeapon(proto);
         proto.asWeapon()->material = 99;
         proto.asWeapon()->criticalHit = 7;
+        proto.asWeapon()->worth = 0xFFFFFFF0;
         ProtoWidget page;
         page.loadProto(local(write(proto, QStringLiteral("odd.pro"))));
         QCOMPARE(child<QComboBox>(page, "movableMaterialCombo")->currentText(), QStringLiteral("99"));
         QCOMPARE(child<QComboBox>(page, "weaponCriticalHit")->currentText(), QStringLiteral("7"));
+        QCOMPARE(child<QSpinBox>(page, "movableWorth")->value(), -16); // all 32 bits, shown signed
         child<QSpinBox>(page, "movableWeight")->setValue(5);
         clickSave(page);
         Proto reopened;
         reopened.load(page.getPath());
         QCOMPARE(reopened.asWeapon()->material, 99u);
         QCOMPARE(reopened.asWeapon()->criticalHit, 7u);
+        QCOMPARE(reopened.asWeapon()->worth, 0xFFFFFFF0u);
         // The odd entry goes again with the next file.
         page.loadProto(local(weaponFile()));
         QCOMPARE(child<QComboBox>(page, "movableMaterialCombo")->count(), int(Proto::MATERIAL_TYPE_COUNT));

@@ -1,10 +1,16 @@
 #include "ibytestream.h"
 
+#include <filesystem>
+
 namespace arcanum {
 
 ibytestream::ibytestream(const std::string& path)
     : std::ifstream(path, std::ios::in | std::ios::binary)
 {
+    // A folder opens like a file here but has no bytes to give.
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        setstate(std::ios::failbit);
     if (!ok())
         return;
     seekg(0, std::ios::end);

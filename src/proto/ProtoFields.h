@@ -5,6 +5,7 @@
 #include <QSpinBox>
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 // Ties the prototype page's controls to model fields, so filling the form and reading it back are

@@ -87,19 +87,6 @@ void ProtoWidget::bindControls()
 {
     bindObjectControls();
     bindItemControls();
-    for (QSpinBox* spin : ui->scrollContents->findChildren<QSpinBox*>(QString(), Qt::FindDirectChildrenOnly))
-        allowWholeWord(spin);
-    for (const auto& group : {staticControls.spins, movableControls.spins})
-        for (const auto& field : group)
-            allowWholeWord(field.spin);
-    for (const auto& field : movableSpins)
-        allowWholeWord(field.spin);
-    for (const auto& field : weaponSpins)
-        allowWholeWord(field.spin);
-    for (const auto& field : armorSpins)
-        allowWholeWord(field.spin);
-    for (const auto& field : schematicSpins)
-        allowWholeWord(field.spin);
 }
 
 void ProtoWidget::bindObjectControls()
@@ -182,20 +169,48 @@ void ProtoWidget::fillChoiceLists()
     setChoices(ui->schematicScrollType, choices(Proto::SCROLL_TYPE_COUNT, &Proto::scrollTypeToString));
 }
 
-// Every control of the form reports an edit; the sub-widgets report theirs through beenEdited().
+namespace {
+template <class Record>
+void addSpins(std::vector<QSpinBox*>& spins, const std::vector<SpinField<Record>>& fields)
+{
+    for (const SpinField<Record>& field : fields)
+        spins.push_back(field.spin);
+}
+} // namespace
+
+std::vector<QSpinBox*> ProtoWidget::boundSpins() const
+{
+    std::vector<QSpinBox*> spins;
+    addSpins(spins, staticControls.spins);
+    addSpins(spins, movableControls.spins);
+    addSpins(spins, movableSpins);
+    addSpins(spins, weaponSpins);
+    addSpins(spins, armorSpins);
+    addSpins(spins, schematicSpins);
+    return spins;
+}
+
+std::vector<QCheckBox*> ProtoWidget::boundChecks() const
+{
+    std::vector<QCheckBox*> checks(staticControls.flags.begin(), staticControls.flags.end());
+    checks.insert(checks.end(), movableControls.flags.begin(), movableControls.flags.end());
+    checks.insert(checks.end(), itemFlagChecks.begin(), itemFlagChecks.end());
+    checks.insert(checks.end(), weaponFlagChecks.begin(), weaponFlagChecks.end());
+    return checks;
+}
+
+// Every bound control reports an edit; the damage and script widgets report theirs through beenEdited().
 void ProtoWidget::connectEdits()
 {
-    for (QSpinBox* spin : ui->scrollContents->findChildren<QSpinBox*>())
-        if (!qobject_cast<ProtoDamagesWidget*>(spin->parentWidget()->parentWidget()))
-            connect(spin, qOverload<int>(&QSpinBox::valueChanged), this, &ProtoWidget::edited);
-    for (QComboBox* combo : ui->scrollContents->findChildren<QComboBox*>())
+    for (QSpinBox* spin : boundSpins()) {
+        allowWholeWord(spin);
+        connect(spin, qOverload<int>(&QSpinBox::valueChanged), this, &ProtoWidget::edited);
+    }
+    for (QComboBox* combo : {ui->staticMaterialCombo, ui->movableMaterialCombo, ui->weaponAmmoType,
+                             ui->weaponCriticalHit, ui->weaponCriticalHitMagic, ui->weaponCriticalMiss,
+                             ui->weaponCriticalMissMagic, ui->schematicScrollType})
         connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), this, &ProtoWidget::edited);
-    for (const ObjectControls* controls : {&staticControls, &movableControls})
-        for (QCheckBox* box : controls->flags)
-            connect(box, &QCheckBox::toggled, this, &ProtoWidget::edited);
-    for (QCheckBox* box : itemFlagChecks)
-        connect(box, &QCheckBox::toggled, this, &ProtoWidget::edited);
-    for (QCheckBox* box : weaponFlagChecks)
+    for (QCheckBox* box : boundChecks())
         connect(box, &QCheckBox::toggled, this, &ProtoWidget::edited);
     for (ProtoDamagesWidget* damages : ui->scrollContents->findChildren<ProtoDamagesWidget*>())
         connect(damages, &ProtoDamagesWidget::beenEdited, this, &ProtoWidget::onDamagesEdited);
@@ -303,7 +318,7 @@ void ProtoWidget::showHeader()
     ui->labelItemType->setText(QString::fromStdString(Proto::itemTypeToString(Proto::ItemType(head.itemType))));
     ui->hexUnknown1->setLabel(QStringLiteral("Unknown1 [0x0006 - 0x0023]"));
     ui->hexUnknown1->setData(head.unknown1.data(), head.unknown1.size(), Proto::UNKNOWN1_OFFSET);
-    // The block holds 12 bytes though the label names 8; the label stays as the game's tools wrote it.
+    // The block holds 12 bytes although the label's range covers 8; the label is kept as modders know it.
     ui->hexUnknown2->setLabel(QStringLiteral("Unknown2 [0x0028 - 0x002F]"));
     ui->hexUnknown2->setData(head.unknown2.data(), head.unknown2.size(), Proto::UNKNOWN2_OFFSET);
 }

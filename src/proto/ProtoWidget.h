@@ -63,6 +63,8 @@ private:
     void bindItemControls();
     void fillChoiceLists();
     void connectEdits();
+    std::vector<QSpinBox*> boundSpins() const;
+    std::vector<QCheckBox*> boundChecks() const;
 
     void updateData();
     void showHeader();

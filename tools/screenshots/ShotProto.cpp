@@ -1,8 +1,10 @@
 // The Proto tab with bundled prototypes open: the weapon at the top of its form and scrolled to the
-// weapon's own group, then an armour and a wall.
+// weapon's own group, then an armour, a wall and the script dialog.
 #include "ShotRegistry.h"
 
+#include "DialogProtoScript.h"
 #include "MainWindow.h"
+#include "ProtoMovableData.h"
 
 #include <QGroupBox>
 #include <QListWidget>
@@ -59,9 +61,25 @@ QWidget* wall(MainWindow& window)
     return nullptr;
 }
 
+// The arguments of the sword's "Wield on" script, in the dialog its script button opens.
+QWidget* scriptDialog(MainWindow& window)
+{
+    openPrototype(window, QStringLiteral("weapon_sword.pro"));
+    auto* dialog = new DialogProtoScript(&window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    arcanum::Proto::ScriptArgs args;
+    args.number = 1530;
+    args.counters = {2, 0, 0, 0};
+    args.flags = 0x5;
+    dialog->setArgs(args);
+    dialog->show();
+    return dialog;
+}
+
 const ShotRegistration weaponShot(50, "tab-5-proto", &weapon);
 const ShotRegistration weaponGroupShot(51, "tab-5-proto-weapon", &weaponOwnGroup);
 const ShotRegistration armourShot(52, "tab-5-proto-armor", &armour);
 const ShotRegistration wallShot(53, "tab-5-proto-wall", &wall);
+const ShotRegistration scriptShot(54, "tab-5-proto-script", &scriptDialog);
 
 } // namespace
