@@ -1,0 +1,54 @@
+#include "ibytestream.h"
+
+#include <filesystem>
+
+namespace arcanum {
+
+ibytestream::ibytestream(const std::string& path)
+    : std::ifstream(path, std::ios::in | std::ios::binary)
+{
+    // A folder opens like a file here but has no bytes to give.
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        setstate(std::ios::failbit);
+    if (!ok())
+        return;
+    seekg(0, std::ios::end);
+    const std::streamoff end = tellg();
+    seekg(0, std::ios::beg);
+    size = end > 0 ? static_cast<std::uint64_t>(end) : 0;
+}
+
+ibytestream& ibytestream::readRaw(std::uint8_t* data, std::size_t count)
+{
+    if (count > 0)
+        read(reinterpret_cast<char*>(data), static_cast<std::streamsize>(count));
+    return *this;
+}
+
+std::uint64_t ibytestream::remaining()
+{
+    if (!ok())
+        return 0;
+    const std::streamoff at = tellg();
+    if (at < 0 || static_cast<std::uint64_t>(at) >= size)
+        return 0;
+    return size - static_cast<std::uint64_t>(at);
+}
+
+std::vector<std::uint8_t> ibytestream::readRest()
+{
+    std::vector<std::uint8_t> rest(static_cast<std::size_t>(remaining()));
+    readBlock(rest);
+    return rest;
+}
+
+bool ibytestream::refuse(const std::string& why)
+{
+    if (damage.empty())
+        damage = why;
+    setstate(std::ios::failbit);
+    return false;
+}
+
+} // namespace arcanum
