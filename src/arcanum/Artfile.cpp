@@ -1,6 +1,7 @@
 #include "Artfile.h"
 
 #include "ArtRunLength.h"
+#include "LittleEndian.h"
 
 #include <QFile>
 #include <QSaveFile>
@@ -23,18 +24,6 @@ constexpr unsigned TILE_IMAGES = 225;
 // Larger frames are damaged headers, not sprites; refusing them keeps one bad word from
 // asking for gigabytes.
 constexpr quint64 MAX_FRAME_PIXELS = quint64(1) << 26;
-
-quint32 wordAt(const QByteArray& bytes, qsizetype pos)
-{
-    return qFromLittleEndian<quint32>(bytes.constData() + pos);
-}
-
-void appendWord(QByteArray& out, quint32 value)
-{
-    char bytes[4];
-    qToLittleEndian(value, bytes);
-    out.append(bytes, 4);
-}
 
 void appendPalette(QByteArray& out, const Artfile::Colour (&colours)[Artfile::PALETTE_SIZE])
 {
@@ -176,13 +165,13 @@ bool Artfile::readFrameHeaders(const QByteArray& bytes, qsizetype& pos)
     images.assign(imageTotal, std::vector<Image>(framesEach));
     for (std::vector<Image>& frames : images) {
         for (Image& frame : frames) {
-            frame.width = wordAt(bytes, pos);
-            frame.height = wordAt(bytes, pos + 4);
-            frame.dataSize = wordAt(bytes, pos + 8);
-            frame.left = qint32(wordAt(bytes, pos + 12));
-            frame.top = qint32(wordAt(bytes, pos + 16));
-            frame.dx = qint32(wordAt(bytes, pos + 20));
-            frame.dy = qint32(wordAt(bytes, pos + 24));
+            frame.width = le::uint32At(bytes, pos);
+            frame.height = le::uint32At(bytes, pos + 4);
+            frame.dataSize = le::uint32At(bytes, pos + 8);
+            frame.left = qint32(le::uint32At(bytes, pos + 12));
+            frame.top = qint32(le::uint32At(bytes, pos + 16));
+            frame.dx = qint32(le::uint32At(bytes, pos + 20));
+            frame.dy = qint32(le::uint32At(bytes, pos + 24));
             pos += FRAME_HEADER_SIZE;
         }
     }
@@ -217,7 +206,7 @@ QByteArray Artfile::toBytes() const
         for (const Image& frame : frames) {
             for (quint32 word : {frame.width, frame.height, frame.dataSize, quint32(frame.left), quint32(frame.top),
                                  quint32(frame.dx), quint32(frame.dy)})
-                appendWord(out, word);
+                le::appendUInt32(out, word);
         }
     }
     for (const std::vector<Image>& frames : images) {

@@ -1,6 +1,6 @@
 #include "Script.h"
 
-#include "ScriptBytes.h"
+#include "LittleEndian.h"
 #include "constants.h"
 
 #include <QFile>
@@ -15,8 +15,8 @@ namespace arcanum {
 
 namespace {
 
-using scriptbytes::appendInt32;
-using scriptbytes::Reader;
+using le::appendInt32;
+using le::Reader;
 
 void readHeader(Reader& in, Script::Header& header)
 {

@@ -5,8 +5,8 @@
 
 #include <cstring>
 
-// Little-endian fields of the script format, read from and written to memory buffers.
-namespace arcanum::scriptbytes {
+// Little-endian fields of the binary formats, read from and written to memory buffers.
+namespace arcanum::le {
 
 // Reads fields one after another. Where the buffer ends inside a field, the bytes it still has
 // replace the front of the field and the rest keeps what was there, as if read straight into memory.
@@ -57,4 +57,15 @@ inline void appendInt32(QByteArray& out, qint32 value)
     out.append(bytes, 4);
 }
 
-} // namespace arcanum::scriptbytes
+inline void appendUInt32(QByteArray& out, quint32 value)
+{
+    appendInt32(out, static_cast<qint32>(value));
+}
+
+// The word at pos; the caller has checked that four bytes are there.
+inline quint32 uint32At(const QByteArray& bytes, qsizetype pos)
+{
+    return qFromLittleEndian<quint32>(bytes.constData() + pos);
+}
+
+} // namespace arcanum::le
