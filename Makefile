@@ -13,7 +13,7 @@ SAMPLE_GAME := examples/sample-game
 .PHONY: run test deps release screenshots samples clean
 
 run: release
-	cd $(SAMPLE_GAME) && ../../$(RELEASE_DIR)/src/app/qtLoreka
+	cd $(SAMPLE_GAME) && ../../$(RELEASE_DIR)/src/qtLoreka
 
 test: deps
 	cmake -S . -B $(TEST_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug \
@@ -26,7 +26,7 @@ test: deps
 	    ctest --output-on-failure -j $(JOBS)
 
 release: deps
-	cmake -S . -B $(RELEASE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release
+	cmake -S . -B $(RELEASE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLOREKA_BUILD_TESTS=OFF
 	cmake --build $(RELEASE_DIR) -j $(JOBS)
 
 # One PNG per tab of the main window, grabbed offscreen, plus a real-window shot under Xvfb.
