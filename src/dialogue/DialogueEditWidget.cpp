@@ -76,16 +76,16 @@ void DialogueEditWidget::connectSignals()
     connect(ui->radioPC, &QRadioButton::toggled, ui->treePC, &QWidget::setVisible);
     connect(this, &DialogueEditWidget::pcListChanged, this, &DialogueEditWidget::rebuildPCList);
     connect(this, &DialogueEditWidget::npcListChanged, this, &DialogueEditWidget::rebuildNPCList);
-    for (DlgLineEditWidget* form : {static_cast<DlgLineEditWidget*>(ui->pcForm), static_cast<DlgLineEditWidget*>(ui->npcForm)})
+    for (DlgLineEditWidget* form : QList<DlgLineEditWidget*>{ui->pcForm, ui->npcForm})
         connect(form, &DlgLineEditWidget::wasModifiedSignal, this, &DialogueEditWidget::setModifiedState);
 }
 
 void DialogueEditWidget::updateControls()
 {
     const bool loaded = dlgfile != nullptr;
-    for (QWidget* widget : {static_cast<QWidget*>(ui->buttonSaveAs), static_cast<QWidget*>(ui->treeNPC),
-                            static_cast<QWidget*>(ui->treePC), static_cast<QWidget*>(ui->radioNPC),
-                            static_cast<QWidget*>(ui->radioPC), static_cast<QWidget*>(ui->formPanel)})
+    const QList<QWidget*> editingControls = {ui->buttonSaveAs, ui->treeNPC, ui->treePC,
+                                             ui->radioNPC, ui->radioPC, ui->formPanel};
+    for (QWidget* widget : editingControls)
         widget->setEnabled(loaded);
     ui->labelModified->setVisible(loaded && modified);
 }
