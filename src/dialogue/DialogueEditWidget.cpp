@@ -1,6 +1,466 @@
 #include "DialogueEditWidget.h"
 
+#include "DlgNpcLineEditWidget.h"
+#include "DlgPcLineEditWidget.h"
+#include "Prompt.h"
+#include "ui_DialogueEditWidget.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QHeaderView>
+#include <QTreeWidgetItemIterator>
+
+#include <optional>
+
+using arcanum::DialogueFileNew;
+
+namespace {
+
+const char* const FILE_FILTER = QT_TRANSLATE_NOOP("DialogueEditWidget", "Arcanum Dialogue files (*.dlg);;All files (*.*)");
+constexpr int INDEX_ROLE = Qt::UserRole;
+constexpr int KIND_ROLE = Qt::UserRole + 1;
+constexpr int ERROR_PREVIEW_LENGTH = 80;
+const QColor DEFECT_COLOUR(0xA0, 0x10, 0x10);
+
+// The first line of a text, marked when more follows.
+QString firstLine(const QString& text)
+{
+    const int end = text.indexOf(QLatin1Char('\n'));
+    return end < 0 ? text : text.left(end) + QStringLiteral(" …");
+}
+
+QString htmlLines(const QString& text)
+{
+    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br/>"));
+}
+
+} // namespace
+
 DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     : QWidget(parent)
+    , ui(std::make_unique<Ui_DialogueEditWidget>())
 {
+    ui->setupUi(this);
+    setUpTrees();
+    connectSignals();
+    ui->splitter->setStretchFactor(0, 0);
+    ui->splitter->setStretchFactor(1, 1);
+    ui->splitter->setSizes({540, 700});
+    ui->treesSplitter->setSizes({400, 260});
+    // The forms sit on the page itself, not on a panel of their own.
+    ui->scrollForms->viewport()->setAutoFillBackground(false);
+    ui->scrollFormsContents->setAutoFillBackground(false);
+    closeLine();
+    showUnreadText();
+    updateControls();
+}
+
+DialogueEditWidget::~DialogueEditWidget() = default;
+
+void DialogueEditWidget::setUpTrees()
+{
+    QHeaderView* npcHeader = ui->treeNPC->header();
+    npcHeader->setStretchLastSection(false);
+    npcHeader->setSectionResizeMode(0, QHeaderView::Stretch);
+    npcHeader->setSectionResizeMode(1, QHeaderView::Interactive);
+    QHeaderView* pcHeader = ui->treePC->header();
+    pcHeader->resizeSection(0, 80);
+    pcHeader->resizeSection(1, 60);
+}
+
+// The "Sort by" choice shows one tree and hides the other; until it is first changed both show.
+void DialogueEditWidget::connectSignals()
+{
+    connect(ui->radioNPC, &QRadioButton::toggled, ui->treeNPC, &QWidget::setVisible);
+    connect(ui->radioPC, &QRadioButton::toggled, ui->treePC, &QWidget::setVisible);
+    connect(this, &DialogueEditWidget::pcListChanged, this, &DialogueEditWidget::rebuildPCList);
+    connect(this, &DialogueEditWidget::npcListChanged, this, &DialogueEditWidget::rebuildNPCList);
+    for (DlgLineEditWidget* form : QList<DlgLineEditWidget*>{ui->pcForm, ui->npcForm})
+        connect(form, &DlgLineEditWidget::wasModifiedSignal, this, &DialogueEditWidget::setModifiedState);
+}
+
+void DialogueEditWidget::updateControls()
+{
+    const bool loaded = dlgfile != nullptr;
+    const QList<QWidget*> editingControls = {ui->buttonSaveAs, ui->treeNPC, ui->treePC,
+                                             ui->radioNPC, ui->radioPC, ui->formPanel};
+    for (QWidget* widget : editingControls)
+        widget->setEnabled(loaded);
+    ui->labelModified->setVisible(loaded && modified);
+}
+
+void DialogueEditWidget::setModifiedState()
+{
+    modified = true;
+    updateControls();
+}
+
+void DialogueEditWidget::on_buttonOpenFile_clicked()
+{
+    qDebug("button_open");
+    loadFile(Prompt::openFileName(this, tr("Open dialogue file"), QStringLiteral("."), tr(FILE_FILTER)));
+}
+
+bool DialogueEditWidget::loadFile(const QString& newPath)
+{
+    if (newPath.isNull() || newPath.isEmpty()) {
+        qDebug("path.isNull() || path.isEmpty()");
+        return false;
+    }
+    if (modified && !yesNoDlg(tr("Load new file?"), tr("You have unsaved changes. Really load a new file?")))
+        return false;
+    closeLine();
+    const QFile file(newPath);
+    dlgfile = std::make_unique<DialogueFileNew>(&file);
+    modified = false;
+    const bool loaded = dlgfile->load();
+    if (loaded) {
+        dlgfile->sortLines();
+        path = newPath;
+    } else {
+        Prompt::message(this, QMessageBox::Warning, tr("Error loading file"), tr("Could not load %1.").arg(newPath));
+        dlgfile.reset();
+        path.clear();
+    }
+    showFileName();
+    fillTrees();
+    showUnreadText();
+    updateControls();
+    return loaded;
+}
+
+void DialogueEditWidget::showFileName()
+{
+    const QString name = QDir::fromNativeSeparators(path).section(QLatin1Char('/'), -1);
+    ui->labelCurrentFile->setText(name.isEmpty() ? tr("None") : name);
+}
+
+void DialogueEditWidget::on_buttonSaveAs_clicked()
+{
+    if (!dlgfile)
+        return;
+    const QString target = Prompt::saveFileName(this, tr("Save file"), QStringLiteral("."), tr(FILE_FILTER));
+    if (target.isEmpty())
+        return;
+    const OpenLine wasOpen = open;
+    if (saveFile(target) && loadFile(target))
+        reopen(wasOpen);
+}
+
+bool DialogueEditWidget::saveFile(const QString& target)
+{
+    if (!dlgfile)
+        return false;
+    saveLineEditChangesToMem();
+    QFile file(target);
+    if (!dlgfile->save(&file)) {
+        Prompt::message(this, QMessageBox::Critical, tr("Error saving file"), tr("Could not save file to %1").arg(target));
+        return false;
+    }
+    modified = false;
+    updateControls();
+    return true;
+}
+
+void DialogueEditWidget::fillTrees()
+{
+    if (!dlgfile) {
+        qWarning("dlgfile == NULL");
+        ui->treeNPC->clear();
+        ui->treePC->clear();
+        return;
+    }
+    rebuildContents();
+}
+
+void DialogueEditWidget::rebuildContents()
+{
+    rebuildNPCList();
+    rebuildPCList();
+}
+
+// Each NPC line lists the PC lines after it up to the next NPC line; PC lines before the first NPC
+// line are only in the PC tree. Both lists are in index order.
+void DialogueEditWidget::rebuildNPCList()
+{
+    ui->treeNPC->clear();
+    if (!dlgfile)
+        return;
+    const QList<DialogueFileNew::NPCLinePointer>& npcLines = dlgfile->npcLines();
+    const QList<DialogueFileNew::PCLinePointer>& pcLines = dlgfile->pcLines();
+    auto pc = pcLines.cbegin();
+    for (int i = 0; i < npcLines.size(); ++i) {
+        const DialogueFileNew::NPCLine& npc = *npcLines.at(i);
+        std::optional<int> next;
+        if (i + 1 < npcLines.size())
+            next = npcLines.at(i + 1)->index();
+        else
+            qDebug("No next line number");
+        QTreeWidgetItem* item = npcItem(npc);
+        while (pc != pcLines.cend() && (*pc)->index() <= npc.index())
+            ++pc;
+        for (; pc != pcLines.cend() && (!next || (*pc)->index() < *next); ++pc)
+            item->addChild(pcChildItem(**pc));
+        ui->treeNPC->addTopLevelItem(item);
+    }
+    ui->treeNPC->expandAll();
+    selectOpenLine();
+}
+
+void DialogueEditWidget::rebuildPCList()
+{
+    ui->treePC->clear();
+    if (!dlgfile)
+        return;
+    for (const DialogueFileNew::PCLinePointer& line : dlgfile->pcLines())
+        ui->treePC->addTopLevelItem(pcItem(*line));
+    selectOpenLine();
+}
+
+namespace {
+
+// Marks an item with its line: index and kind for look-ups, the whole text and any problems in
+// its tool tip, defective lines in red.
+void describe(QTreeWidgetItem* item, const DialogueFileNew::Line& line, int kind)
+{
+    item->setData(0, INDEX_ROLE, line.index());
+    item->setData(0, KIND_ROLE, kind);
+    QString toolTip = QStringLiteral("<p style='white-space:pre-wrap'>") + htmlLines(line.text()) + QStringLiteral("</p>");
+    if (const DialogueFileNew::LineErrors* errors = line.errors()) {
+        toolTip += QStringLiteral("<p style='color:#a01010'>") + htmlLines(errors->messages.join(QLatin1Char('\n')))
+                   + QStringLiteral("</p>");
+        for (int column = 0; column < item->columnCount(); ++column)
+            item->setForeground(column, DEFECT_COLOUR);
+    }
+    for (int column = 0; column < item->columnCount(); ++column)
+        item->setToolTip(column, toolTip);
+}
+
+} // namespace
+
+QTreeWidgetItem* DialogueEditWidget::npcItem(const DialogueFileNew::NPCLine& line) const
+{
+    auto* item = new QTreeWidgetItem({QStringLiteral("%1: %2").arg(line.index()).arg(firstLine(line.text())), QString()});
+    QFont bold = item->font(0);
+    bold.setBold(true);
+    item->setFont(0, bold);
+    describe(item, line, static_cast<int>(LineKind::Npc));
+    return item;
+}
+
+QTreeWidgetItem* DialogueEditWidget::pcChildItem(const DialogueFileNew::PCLine& line) const
+{
+    auto* item = new QTreeWidgetItem({tr("PC response line:") + QStringLiteral(" %1: %2").arg(line.index()).arg(firstLine(line.text())),
+                                      QStringLiteral("→ %1").arg(line.responseLine())});
+    describe(item, line, static_cast<int>(LineKind::Pc));
+    return item;
+}
+
+QTreeWidgetItem* DialogueEditWidget::pcItem(const DialogueFileNew::PCLine& line) const
+{
+    auto* item = new QTreeWidgetItem(
+        {QString::number(line.responseLine()), QString::number(line.index()), firstLine(line.text())});
+    describe(item, line, static_cast<int>(LineKind::Pc));
+    return item;
+}
+
+// The item is read before the line opens: opening may rebuild the tree.
+void DialogueEditWidget::on_treeNPC_itemDoubleClicked(QTreeWidgetItem* item, int column)
+{
+    if (!item)
+        return;
+    const int index = item->data(0, INDEX_ROLE).toInt();
+    const bool npcLine = item->text(1).isEmpty();
+    qDebug("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): treeNPC col %d line %d", column, index);
+    if (npcLine && !openNpcLine(index))
+        qWarning("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): no npc line with index %d found", index);
+    if (!npcLine && !openPcLine(index))
+        qWarning("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): no pc line with index %d found", index);
+}
+
+void DialogueEditWidget::on_treePC_itemDoubleClicked(QTreeWidgetItem* item, int column)
+{
+    if (!item)
+        return;
+    const int index = item->data(0, INDEX_ROLE).toInt();
+    qDebug("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): treePC col %d line %d", column, index);
+    if (!openPcLine(index))
+        return;
+    const int response = ui->pcForm->getOriginalLine()->responseLine();
+    if (!dlgfile->getNPCLine(response))
+        qWarning("DialogueEditWidget::on_treePC_itemDoubleClicked(): no npc line with index %d found", response);
+}
+
+bool DialogueEditWidget::openPcLine(int index)
+{
+    const DialogueFileNew::PCLinePointer line = dlgfile ? dlgfile->getPCLine(index) : DialogueFileNew::PCLinePointer();
+    return line && openLine({LineKind::Pc, index}, ui->pcForm, [&] { ui->pcForm->fillWithData(line); });
+}
+
+bool DialogueEditWidget::openNpcLine(int index)
+{
+    const DialogueFileNew::NPCLinePointer line = dlgfile ? dlgfile->getNPCLine(index) : DialogueFileNew::NPCLinePointer();
+    return line && openLine({LineKind::Npc, index}, ui->npcForm, [&] { ui->npcForm->fillWithData(line); });
+}
+
+bool DialogueEditWidget::openLine(const OpenLine& line, QWidget* form, const std::function<void()>& fill)
+{
+    applyPendingForm();
+    fill();
+    ui->stackForms->setCurrentWidget(form);
+    open = line;
+    showOpenLine();
+    return true;
+}
+
+void DialogueEditWidget::reopen(const OpenLine& line)
+{
+    if (line.kind == LineKind::Pc)
+        openPcLine(line.index);
+    else if (line.kind == LineKind::Npc)
+        openNpcLine(line.index);
+}
+
+void DialogueEditWidget::closeLine()
+{
+    ui->pcForm->clear();
+    ui->npcForm->clear();
+    ui->stackForms->setCurrentWidget(ui->pageNoLine);
+    open = OpenLine();
+    showOpenLine();
+}
+
+// Only a form with changes is applied, so opening lines one after another keeps the trees still.
+void DialogueEditWidget::applyPendingForm()
+{
+    if (DlgLineEditWidget* form = openForm(); form && form->hasPendingChanges())
+        saveLineEditChangesToMem();
+}
+
+DlgLineEditWidget* DialogueEditWidget::openForm() const
+{
+    switch (open.kind) {
+    case LineKind::Pc:
+        return ui->pcForm;
+    case LineKind::Npc:
+        return ui->npcForm;
+    case LineKind::None:
+        break;
+    }
+    return nullptr;
+}
+
+const DialogueFileNew::Line* DialogueEditWidget::openLineData() const
+{
+    switch (open.kind) {
+    case LineKind::Pc:
+        return ui->pcForm->getOriginalLine().data();
+    case LineKind::Npc:
+        return ui->npcForm->getOriginalLine().data();
+    case LineKind::None:
+        break;
+    }
+    return nullptr;
+}
+
+void DialogueEditWidget::saveLineEditChangesToMem()
+{
+    if (!dlgfile)
+        return;
+    if (DlgLineEditWidget* form = openForm())
+        form->applyChangesToData();
+    dlgfile->sortLines();
+    emit npcListChanged();
+    emit pcListChanged();
+    showOpenLine();
+}
+
+void DialogueEditWidget::showOpenLine()
+{
+    ui->labelOpenLine->setText(describeOpenLine());
+    ui->labelOpenLine->setVisible(open.kind != LineKind::None);
+    showLineErrors();
+    selectOpenLine();
+}
+
+// A heading over the form: which line is open and where the dialogue goes from it.
+QString DialogueEditWidget::describeOpenLine() const
+{
+    if (open.kind == LineKind::Npc) {
+        const DialogueFileNew::NPCLinePointer line = ui->npcForm->getOriginalLine();
+        QString text = tr("<b>NPC line %1</b>").arg(open.index);
+        if (line && line->responseLine() >= 0)
+            text += tr(" — goes on with line %1").arg(line->responseLine());
+        return text;
+    }
+    const DialogueFileNew::PCLinePointer line = ui->pcForm->getOriginalLine();
+    if (open.kind != LineKind::Pc || !line || !dlgfile)
+        return QString();
+    QString text = tr("<b>PC line %1</b>").arg(open.index);
+    if (const DialogueFileNew::NPCLinePointer answer = dlgfile->getNPCLine(line->responseLine()))
+        text += tr(" — answered by NPC line %1: %2").arg(answer->index()).arg(firstLine(answer->text()).toHtmlEscaped());
+    else
+        text += tr(" — response line %1 is no NPC line of this file").arg(line->responseLine());
+    return text;
+}
+
+// A modder must see why a line is broken, and that it is kept as read until it is changed.
+void DialogueEditWidget::showLineErrors()
+{
+    const DialogueFileNew::Line* line = openLineData();
+    const DialogueFileNew::LineErrors* errors = line ? line->errors() : nullptr;
+    ui->labelLineErrors->setVisible(errors != nullptr);
+    if (!errors)
+        return;
+    QString text = QStringLiteral("<b style='color:#a01010'>") + tr("This line has problems:") + QStringLiteral("</b><ul style='color:#a01010; margin:0'>");
+    for (const QString& message : errors->messages)
+        text += QStringLiteral("<li>") + message.toHtmlEscaped() + QStringLiteral("</li>");
+    text += QStringLiteral("</ul>");
+    if (line->isEdited())
+        text += tr("You changed it, so it is saved from the form's fields.");
+    else
+        text += tr("Until you change it, it is saved exactly as read:") + QStringLiteral("<br/><tt>")
+                + htmlLines(errors->rawText) + QStringLiteral("</tt>");
+    ui->labelLineErrors->setText(text);
+}
+
+void DialogueEditWidget::showUnreadText()
+{
+    const QString unread = dlgfile ? dlgfile->unreadText() : QString();
+    ui->labelUnread->setVisible(!unread.isEmpty());
+    if (unread.isEmpty())
+        return;
+    QString start = firstLine(unread.trimmed());
+    if (start.size() > ERROR_PREVIEW_LENGTH)
+        start = start.left(ERROR_PREVIEW_LENGTH) + QStringLiteral("…");
+    ui->labelUnread->setText(tr("Part of this file could not be read as dialogue lines, from \"%1\" on. "
+                                "It is not shown here, but saving writes it back unchanged after the lines.")
+                                 .arg(start));
+}
+
+// The open line stays selected in the trees, also after they were rebuilt.
+void DialogueEditWidget::selectOpenLine()
+{
+    for (QTreeWidget* tree : {ui->treeNPC, ui->treePC}) {
+        tree->clearSelection();
+        for (QTreeWidgetItemIterator it(tree); *it; ++it) {
+            QTreeWidgetItem* item = *it;
+            if (item->data(0, KIND_ROLE).toInt() == static_cast<int>(open.kind)
+                && item->data(0, INDEX_ROLE).toInt() == open.index) {
+                tree->setCurrentItem(item);
+                tree->scrollToItem(item);
+                break;
+            }
+        }
+    }
+}
+
+void DialogueEditWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        showFileName();
+    }
+    QWidget::changeEvent(event);
 }

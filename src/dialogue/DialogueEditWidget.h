@@ -1,12 +1,93 @@
 #pragma once
 
+#include "DialogueFileNew.h"
+
+#include <QString>
 #include <QWidget>
 
-// Placeholder page until the dialogue editor lands.
+#include <functional>
+#include <memory>
+
+class DlgLineEditWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+class Ui_DialogueEditWidget;
+
+// The "Dialogue" tab: one .dlg file as two trees (NPC lines with the PC responses that follow them,
+// and all PC lines), and the form of the line opened from them. Changes in the form go into the line
+// when another line is opened and before saving.
 class DialogueEditWidget : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit DialogueEditWidget(QWidget* parent = nullptr);
+    ~DialogueEditWidget() override;
+
+    // False when nothing was loaded: no path, the user kept unsaved changes, or the file could not
+    // be read (then the page is left empty).
+    bool loadFile(const QString& path);
+    // False (after telling the user) when the file could not be written; the page stays modified.
+    bool saveFile(const QString& path);
+    void fillTrees();
+    void rebuildContents();
+    // Writes the open form into its line and puts both line lists in index order.
+    void saveLineEditChangesToMem();
+
+    // Opens the line with that index in its form; false when there is none.
+    bool openPcLine(int index);
+    bool openNpcLine(int index);
+
+    arcanum::DialogueFileNew* getModel() const { return dlgfile.get(); }
+    QString getPath() const { return path; }
+    bool isModified() const { return modified; }
+
+signals:
+    void npcListChanged();
+    void pcListChanged();
+
+public slots:
+    void on_buttonOpenFile_clicked();
+    void on_buttonSaveAs_clicked();
+    void on_treeNPC_itemDoubleClicked(QTreeWidgetItem* item, int column);
+    void on_treePC_itemDoubleClicked(QTreeWidgetItem* item, int column);
+    void rebuildPCList();
+    void rebuildNPCList();
+    void setModifiedState();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    enum class LineKind { None, Pc, Npc };
+    struct OpenLine
+    {
+        LineKind kind = LineKind::None;
+        int index = 0;
+    };
+
+    void setUpTrees();
+    void connectSignals();
+    void updateControls();
+    void showFileName();
+    void closeLine();
+    bool openLine(const OpenLine& line, QWidget* form, const std::function<void()>& fill);
+    void reopen(const OpenLine& line);
+    void applyPendingForm();
+    DlgLineEditWidget* openForm() const;
+    const arcanum::DialogueFileNew::Line* openLineData() const;
+    void showOpenLine();
+    QString describeOpenLine() const;
+    void showLineErrors();
+    void showUnreadText();
+    void selectOpenLine();
+    QTreeWidgetItem* npcItem(const arcanum::DialogueFileNew::NPCLine& line) const;
+    QTreeWidgetItem* pcChildItem(const arcanum::DialogueFileNew::PCLine& line) const;
+    QTreeWidgetItem* pcItem(const arcanum::DialogueFileNew::PCLine& line) const;
+
+    std::unique_ptr<Ui_DialogueEditWidget> ui;
+    std::unique_ptr<arcanum::DialogueFileNew> dlgfile;
+    QString path;
+    bool modified = false;
+    OpenLine open;
 };

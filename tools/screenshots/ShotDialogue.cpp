@@ -1,16 +1,44 @@
-// The Dialogue tab.
+// The Dialogue tab with the sample dialogue open: a PC line with tests and results in its form, an
+// NPC line with a female variant, and a line with problems.
 #include "ShotRegistry.h"
 
+#include "DialogueEditWidget.h"
 #include "MainWindow.h"
+#include "constants.h"
+
+#include <QDir>
 
 namespace {
 
-QWidget* dialogue(MainWindow& window)
+DialogueEditWidget& sampleDialogue(MainWindow& window)
 {
     ShotRegistry::showTab(window, 2);
+    DialogueEditWidget& page = *window.dialoguePage();
+    if (!page.getModel())
+        page.loadFile(QDir::current().absoluteFilePath(arcanum::DLG_DIR + QStringLiteral("sample_dialogue.dlg")));
+    return page;
+}
+
+QWidget* pcLine(MainWindow& window)
+{
+    sampleDialogue(window).openPcLine(6);
     return nullptr;
 }
 
-const ShotRegistration shot(30, "tab-3-dialogue", &dialogue);
+QWidget* npcLine(MainWindow& window)
+{
+    sampleDialogue(window).openNpcLine(1);
+    return nullptr;
+}
+
+QWidget* brokenLine(MainWindow& window)
+{
+    sampleDialogue(window).openPcLine(41);
+    return nullptr;
+}
+
+const ShotRegistration shot(30, "tab-3-dialogue", &pcLine);
+const ShotRegistration npcShot(31, "tab-3-dialogue-npc", &npcLine);
+const ShotRegistration errorShot(32, "tab-3-dialogue-errors", &brokenLine);
 
 } // namespace

@@ -1,0 +1,398 @@
+// The Dialogue tab driven offscreen: trees, opening lines, editing them and saving as.
+#include "DialogueEditWidget.h"
+#include "DialogueTestsWidget.h"
+#include "DlgNpcLineEditWidget.h"
+#include "DlgPcLineEditWidget.h"
+#include "FormatChecks.h"
+#include "ScriptedAnswerer.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLayout>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+const QString SAMPLE = QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game/data/dlg/sample_dialogue.dlg");
+
+// Line 6 of the sample as the editor should write it after the edit of editAndSaveAs().
+const QByteArray LINE_6 = QByteArrayLiteral("\t{6}{Here is what I owe you.}{}{5}{$$ 100, gf 12 1}{40}{$$ -100, gv 7 1}\r\n");
+const QByteArray LINE_6_EDITED =
+    QByteArrayLiteral("\t{6}{Here is what I owe you. All of it.}{}{5}{$$ -150, gf 12 1}{40}{$$ -100, gv 7 1}\r\n");
+
+// The texts of a tree's items, depth first, children indented by two blanks.
+QStringList outline(const QTreeWidget* tree, int column)
+{
+    QStringList lines;
+    for (int i = 0; i < tree->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* item = tree->topLevelItem(i);
+        lines << item->text(column);
+        for (int j = 0; j < item->childCount(); ++j)
+            lines << QStringLiteral("  ") + item->child(j)->text(column);
+    }
+    return lines;
+}
+
+QTreeWidgetItem* findItem(QTreeWidget* tree, const QString& text, int column)
+{
+    const QList<QTreeWidgetItem*> items = tree->findItems(text, Qt::MatchStartsWith | Qt::MatchRecursive, column);
+    return items.isEmpty() ? nullptr : items.first();
+}
+
+} // namespace
+
+class TestDialogueEditor : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir dir;
+    QByteArray sample;
+    std::unique_ptr<DialogueEditWidget> page;
+
+    template <typename T>
+    T* child(const char* name) const
+    {
+        T* widget = page->findChild<T*>(QString::fromLatin1(name));
+        if (!widget)
+            qFatal("no child %s", name);
+        return widget;
+    }
+
+    QTreeWidget* treeNPC() const { return child<QTreeWidget>("treeNPC"); }
+    QTreeWidget* treePC() const { return child<QTreeWidget>("treePC"); }
+    DlgPcLineEditWidget* pcForm() const { return child<DlgPcLineEditWidget>("pcForm"); }
+    DlgNpcLineEditWidget* npcForm() const { return child<DlgNpcLineEditWidget>("npcForm"); }
+    QWidget* currentForm() const { return child<QStackedWidget>("stackForms")->currentWidget(); }
+
+    QString write(const QString& name, const QByteArray& bytes) const
+    {
+        const QString path = dir.filePath(name);
+        FormatChecks::writeFile(path, bytes);
+        return path;
+    }
+
+    QString loadSample(const QString& name = QStringLiteral("sample.dlg"))
+    {
+        const QString path = write(name, sample);
+        page->loadFile(path);
+        return path;
+    }
+
+    void doubleClick(QTreeWidget* tree, QTreeWidgetItem* item)
+    {
+        QVERIFY(item);
+        tree->scrollToItem(item);
+        const QPoint centre = tree->visualItemRect(item).center();
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, centre);
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, centre);
+    }
+
+    DialogueTestsWidget* testRow(int position) const
+    {
+        QLayout* layout = pcForm()->findChild<QLayout*>(QStringLiteral("testsLayout"));
+        return qobject_cast<DialogueTestsWidget*>(layout->itemAt(position)->widget());
+    }
+
+    // Types into a text box at its end, as a user who clicked there would.
+    static void typeAtEnd(QPlainTextEdit* edit, const QString& text)
+    {
+        edit->moveCursor(QTextCursor::End);
+        QTest::keyClicks(edit, text);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(dir.isValid());
+        sample = FormatChecks::readFile(SAMPLE);
+        QVERIFY(sample.contains(LINE_6));
+    }
+
+    void init()
+    {
+        page = std::make_unique<DialogueEditWidget>();
+        page->resize(1200, 800);
+        page->show();
+        QVERIFY(QTest::qWaitForWindowExposed(page.get()));
+    }
+
+    void cleanup() { page.reset(); }
+
+    void emptyPage()
+    {
+        QCOMPARE(child<QLabel>("labelCurrentFile")->text(), QStringLiteral("None"));
+        QVERIFY(child<QPushButton>("buttonOpenFile")->isEnabled());
+        for (const char* name : {"buttonSaveAs", "treeNPC", "treePC", "radioNPC", "radioPC", "pcForm", "npcForm"})
+            QVERIFY2(!child<QWidget>(name)->isEnabled(), name);
+        QCOMPARE(child<QPushButton>("buttonOpenFile")->text(), QStringLiteral("Open file..."));
+        QCOMPARE(child<QPushButton>("buttonSaveAs")->text(), QStringLiteral("Save as..."));
+        QCOMPARE(child<QPushButton>("buttonPrevious")->text(), QStringLiteral("Last Selected"));
+        QCOMPARE(child<QPushButton>("buttonForward")->text(), QStringLiteral("Forward"));
+        QCOMPARE(treeNPC()->headerItem()->text(0), QStringLiteral("Response lines"));
+        QCOMPARE(treePC()->headerItem()->text(0), QStringLiteral("Response"));
+        QCOMPARE(treePC()->headerItem()->text(1), QStringLiteral("Line"));
+        QCOMPARE(treeNPC()->columnCount(), 2);
+        QVERIFY(!treeNPC()->isSortingEnabled());
+        // Until the choice first changes, both trees show.
+        QVERIFY(child<QRadioButton>("radioPC")->isChecked());
+        QVERIFY(treeNPC()->isVisible());
+        QVERIFY(treePC()->isVisible());
+        page->saveLineEditChangesToMem(); // nothing to apply to
+        page->fillTrees();
+        QCOMPARE(treeNPC()->topLevelItemCount(), 0);
+    }
+
+    void sampleTrees()
+    {
+        loadSample();
+        QCOMPARE(child<QLabel>("labelCurrentFile")->text(), QStringLiteral("sample.dlg"));
+        QVERIFY(treeNPC()->isEnabled());
+        QVERIFY(!child<QLabel>("labelUnread")->isVisible());
+        QStringList npcIndices;
+        for (const QString& text : outline(treeNPC(), 0))
+            npcIndices << text.section(QLatin1Char(':'), 0, 0).trimmed();
+        const QStringList expected = {"1", "PC response line", "PC response line", "PC response line",
+                                      "PC response line", "PC response line", "PC response line",
+                                      "10", "PC response line", "20", "PC response line", "PC response line",
+                                      "30", "40", "PC response line", "PC response line", "50", "PC response line"};
+        QCOMPARE(npcIndices, expected);
+        QCOMPARE(treeNPC()->topLevelItem(0)->child(2)->text(0),
+                 QStringLiteral("PC response line: 4: I seek my brother, a gnome named Tobbin."));
+        QCOMPARE(treeNPC()->topLevelItem(0)->child(2)->text(1), QStringLiteral("→ 30"));
+        QCOMPARE(treeNPC()->topLevelItem(1)->text(0),
+                 QStringLiteral("10: There is always work for willing hands. …"));
+        QVERIFY(treeNPC()->topLevelItem(1)->text(1).isEmpty());
+        // The last NPC line lists the PC lines after it; Windows-1251 texts arrive as Cyrillic.
+        QCOMPARE(treeNPC()->topLevelItem(5)->child(0)->text(0), QString::fromUtf8("PC response line: 51: Спасибо."));
+
+        QCOMPARE(outline(treePC(), 1), QStringList({"2", "3", "4", "5", "6", "7", "11", "21", "22", "41", "42", "51"}));
+        QCOMPARE(outline(treePC(), 0).first(), QStringLiteral("10"));
+        QCOMPARE(treePC()->topLevelItem(0)->text(2), QStringLiteral("I am looking for work."));
+        // Lines with problems stand out and say why.
+        QTreeWidgetItem* broken = findItem(treePC(), QStringLiteral("41"), 1);
+        QVERIFY(broken);
+        QVERIFY(broken->foreground(1).color() != treePC()->topLevelItem(0)->foreground(1).color());
+        QVERIFY(broken->toolTip(1).contains(QStringLiteral("opcode &#x27;zz&#x27; is unknown"))
+                || broken->toolTip(1).contains(QStringLiteral("opcode 'zz' is unknown")));
+    }
+
+    void pcLineBeforeEveryNpcLine()
+    {
+        page->loadFile(write(QStringLiteral("early.dlg"), "\t{1}{Early.}{}{1}{}{2}{}\r\n"
+                                                          "{2}{Hello.}{}{}{}{}{}\r\n"
+                                                          "\t{2}{Same index.}{}{1}{}{0}{}\r\n"
+                                                          "\t{3}{Bye.}{}{1}{}{0}{}\r\n"
+                                                          "{5}{Later.}{}{}{}{}{}\r\n"));
+        QCOMPARE(outline(treeNPC(), 0), QStringList({"2: Hello.", "  PC response line: 3: Bye.", "5: Later."}));
+        QCOMPARE(outline(treePC(), 1), QStringList({"1", "2", "3"}));
+    }
+
+    void openLinesByDoubleClick()
+    {
+        loadSample();
+        QCOMPARE(currentForm()->objectName(), QStringLiteral("pageNoLine"));
+        doubleClick(treeNPC(), treeNPC()->topLevelItem(1));
+        QCOMPARE(currentForm(), npcForm());
+        QCOMPARE(npcForm()->getOriginalLine()->index(), 10);
+        QCOMPARE(npcForm()->findChild<QPlainTextEdit*>(QStringLiteral("maleText"))->toPlainText(),
+                 QStringLiteral("There is always work for willing hands.\nSee the foreman at the docks."));
+        QCOMPARE(treeNPC()->currentItem(), treeNPC()->topLevelItem(1));
+
+        // Opening the next line applies this one's change and rebuilds the trees under the click.
+        auto* maleText = npcForm()->findChild<QPlainTextEdit*>(QStringLiteral("maleText"));
+        maleText->moveCursor(QTextCursor::Start);
+        QTest::keyClicks(maleText, QStringLiteral("Well. "));
+        doubleClick(treeNPC(), treeNPC()->topLevelItem(0)->child(4));
+        QCOMPARE(page->getModel()->getNPCLine(10)->text(),
+                 QStringLiteral("Well. There is always work for willing hands.\nSee the foreman at the docks."));
+        QCOMPARE(treeNPC()->topLevelItem(1)->text(0), QStringLiteral("10: Well. There is always work for willing hands. …"));
+        QCOMPARE(currentForm(), pcForm());
+        QCOMPARE(pcForm()->getOriginalLine()->index(), 6);
+        QVERIFY(child<QLabel>("labelOpenLine")->text().contains(QStringLiteral("answered by NPC line 40")));
+        QCOMPARE(treePC()->currentItem()->text(1), QStringLiteral("6"));
+        QVERIFY(!child<QLabel>("labelLineErrors")->isVisible());
+
+        doubleClick(treePC(), findItem(treePC(), QStringLiteral("41"), 1));
+        QCOMPARE(pcForm()->getOriginalLine()->index(), 41);
+        QVERIFY(child<QLabel>("labelLineErrors")->isVisible());
+        QVERIFY(child<QLabel>("labelLineErrors")->text().contains(QStringLiteral("opcode &#x27;zz&#x27; is unknown"))
+                || child<QLabel>("labelLineErrors")->text().contains(QStringLiteral("opcode 'zz' is unknown")));
+        QVERIFY(page->isModified());
+    }
+
+    void editAndSaveAs()
+    {
+        const QString source = loadSample();
+        doubleClick(treePC(), findItem(treePC(), QStringLiteral("6"), 1));
+        QCOMPARE(pcForm()->getOriginalLine()->index(), 6);
+        typeAtEnd(pcForm()->findChild<QPlainTextEdit*>(QStringLiteral("text")), QStringLiteral(" All of it."));
+        DialogueTestsWidget* money = testRow(0);
+        money->findChild<QSpinBox*>(QStringLiteral("spin1"))->setValue(150);
+        money->findChild<QComboBox*>(QStringLiteral("combo1"))->setCurrentIndex(1);
+        QVERIFY(page->isModified());
+        QVERIFY(child<QLabel>("labelModified")->isVisible());
+
+        ScriptedAnswerer answers;
+        const QString target = dir.filePath(QStringLiteral("saved.dlg"));
+        answers.fileNames << target;
+        QTest::mouseClick(child<QPushButton>("buttonSaveAs"), Qt::LeftButton);
+        QCOMPARE(answers.count(QStringLiteral("message")), 0);
+        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save file"));
+        QCOMPARE(answers.last(QStringLiteral("save"))->text,
+                 QStringLiteral(".|Arcanum Dialogue files (*.dlg);;All files (*.*)"));
+
+        QByteArray expected = sample;
+        expected.replace(LINE_6, LINE_6_EDITED);
+        QCOMPARE(FormatChecks::readFile(target), expected);
+        QCOMPARE(FormatChecks::readFile(source), sample);
+        // The page now shows the saved file, with the edited line open again.
+        QCOMPARE(page->getPath(), target);
+        QCOMPARE(child<QLabel>("labelCurrentFile")->text(), QStringLiteral("saved.dlg"));
+        QVERIFY(!page->isModified());
+        QCOMPARE(pcForm()->getOriginalLine()->text(), QStringLiteral("Here is what I owe you. All of it."));
+        QCOMPARE(pcForm()->getOriginalLine().data(), page->getModel()->getPCLine(6).data());
+    }
+
+    // Opening every line and touching its form writes the file back byte for byte.
+    void untouchedRoundTrip()
+    {
+        loadSample();
+        arcanum::DialogueFileNew* model = page->getModel();
+        for (const auto& line : model->npcLines()) {
+            QVERIFY(page->openNpcLine(line->index()));
+            auto* text = npcForm()->findChild<QPlainTextEdit*>(QStringLiteral("maleText"));
+            typeAtEnd(text, QStringLiteral("x"));
+            QTest::keyClick(text, Qt::Key_Backspace);
+        }
+        for (const auto& line : model->pcLines()) {
+            QVERIFY(page->openPcLine(line->index()));
+            auto* text = pcForm()->findChild<QPlainTextEdit*>(QStringLiteral("text"));
+            typeAtEnd(text, QStringLiteral("x"));
+            QTest::keyClick(text, Qt::Key_Backspace);
+        }
+        QVERIFY(page->isModified());
+        const QString target = dir.filePath(QStringLiteral("roundtrip.dlg"));
+        QVERIFY(page->saveFile(target));
+        QVERIFY(!page->isModified());
+        QCOMPARE(FormatChecks::readFile(target), sample);
+    }
+
+    void loadWhileModified()
+    {
+        loadSample();
+        const arcanum::DialogueFileNew* model = page->getModel();
+        QVERIFY(page->openPcLine(2));
+        typeAtEnd(pcForm()->findChild<QPlainTextEdit*>(QStringLiteral("text")), QStringLiteral("!"));
+        QVERIFY(page->isModified());
+
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::No;
+        const QString other = write(QStringLiteral("other.dlg"), "{1}{Hi.}{}{}{}{}{}\r\n");
+        QVERIFY(!page->loadFile(other));
+        QCOMPARE(answers.last(QStringLiteral("question"))->title, QStringLiteral("Load new file?"));
+        QCOMPARE(answers.last(QStringLiteral("question"))->text,
+                 QStringLiteral("You have unsaved changes. Really load a new file?"));
+        QCOMPARE(answers.last(QStringLiteral("question"))->defaultButton, QMessageBox::No);
+        QCOMPARE(page->getModel(), model);
+        QCOMPARE(treeNPC()->topLevelItemCount(), 6);
+        QCOMPARE(pcForm()->getOriginalLine()->index(), 2);
+        QVERIFY(page->isModified());
+
+        answers.buttons << QMessageBox::Yes;
+        QVERIFY(page->loadFile(other));
+        QCOMPARE(treeNPC()->topLevelItemCount(), 1);
+        QVERIFY(!page->isModified());
+        QCOMPARE(currentForm()->objectName(), QStringLiteral("pageNoLine"));
+    }
+
+    void openFileButton()
+    {
+        const QString path = write(QStringLiteral("button.dlg"), sample);
+        ScriptedAnswerer answers;
+        answers.fileNames << path;
+        QTest::mouseClick(child<QPushButton>("buttonOpenFile"), Qt::LeftButton);
+        QCOMPARE(answers.last(QStringLiteral("open"))->title, QStringLiteral("Open dialogue file"));
+        QCOMPARE(page->getPath(), path);
+        // Cancelling the chooser keeps the file.
+        QTest::mouseClick(child<QPushButton>("buttonOpenFile"), Qt::LeftButton);
+        QCOMPARE(page->getPath(), path);
+        QCOMPARE(answers.count(QStringLiteral("message")), 0);
+    }
+
+    void loadFailure()
+    {
+        loadSample();
+        ScriptedAnswerer answers;
+        const QString missing = dir.filePath(QStringLiteral("missing.dlg"));
+        QVERIFY(!page->loadFile(missing));
+        const ScriptedAnswerer::Asked* message = answers.last(QStringLiteral("message"));
+        QVERIFY(message);
+        QCOMPARE(message->title, QStringLiteral("Error loading file"));
+        QCOMPARE(message->text, QStringLiteral("Could not load %1.").arg(missing));
+        QCOMPARE(message->icon, QMessageBox::Warning);
+        QVERIFY(!page->getModel());
+        QCOMPARE(treeNPC()->topLevelItemCount(), 0);
+        QCOMPARE(treePC()->topLevelItemCount(), 0);
+        QVERIFY(!treePC()->isEnabled());
+        QVERIFY(!child<QPushButton>("buttonSaveAs")->isEnabled());
+        QCOMPARE(child<QLabel>("labelCurrentFile")->text(), QStringLiteral("None"));
+        QVERIFY(!page->openPcLine(2));
+    }
+
+    void saveFailure()
+    {
+        loadSample();
+        QVERIFY(page->openNpcLine(30));
+        typeAtEnd(npcForm()->findChild<QPlainTextEdit*>(QStringLiteral("maleText")), QStringLiteral("!"));
+        ScriptedAnswerer answers;
+        const QString target = dir.filePath(QStringLiteral("no/such/folder/out.dlg"));
+        answers.fileNames << target;
+        QTest::mouseClick(child<QPushButton>("buttonSaveAs"), Qt::LeftButton);
+        const ScriptedAnswerer::Asked* message = answers.last(QStringLiteral("message"));
+        QVERIFY(message);
+        QCOMPARE(message->title, QStringLiteral("Error saving file"));
+        QCOMPARE(message->text, QStringLiteral("Could not save file to %1").arg(target));
+        QCOMPARE(message->icon, QMessageBox::Critical);
+        QVERIFY(page->isModified());
+        QVERIFY(page->getPath().endsWith(QStringLiteral("sample.dlg")));
+        // The edit went into the model all the same.
+        QCOMPARE(page->getModel()->getNPCLine(30)->text(), QStringLiteral("Tobbin? He left for Tarant last week.!"));
+    }
+
+    void sortByChoice()
+    {
+        loadSample();
+        QTest::mouseClick(child<QRadioButton>("radioNPC"), Qt::LeftButton);
+        QVERIFY(treeNPC()->isVisible());
+        QVERIFY(!treePC()->isVisible());
+        QTest::mouseClick(child<QRadioButton>("radioPC"), Qt::LeftButton);
+        QVERIFY(!treeNPC()->isVisible());
+        QVERIFY(treePC()->isVisible());
+    }
+
+    void unreadRestIsReported()
+    {
+        const QByteArray bytes = "{1}{Hello.}{}{}{}{}{}\r\n{2}{Broken}{}\r\n";
+        const QString path = write(QStringLiteral("broken.dlg"), bytes);
+        QVERIFY(page->loadFile(path));
+        QVERIFY(child<QLabel>("labelUnread")->isVisible());
+        QVERIFY(child<QLabel>("labelUnread")->text().contains(QStringLiteral("{2}{Broken}{}")));
+        QCOMPARE(treeNPC()->topLevelItemCount(), 1);
+        const QString target = dir.filePath(QStringLiteral("broken-saved.dlg"));
+        QVERIFY(page->saveFile(target));
+        QCOMPARE(FormatChecks::readFile(target), QByteArray(bytes + "\r\n"));
+    }
+};
+
+QTEST_MAIN(TestDialogueEditor)
+#include "tst_dialogue_editor.moc"
