@@ -2,9 +2,9 @@
 
 #include "ArtRunLength.h"
 #include "LittleEndian.h"
+#include "SafeSave.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -223,15 +223,15 @@ bool Artfile::save(const QString& target)
         say("Cannot save: Artfile is empty.");
         return false;
     }
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly)) {
+    switch (SafeSave::write(target, toBytes())) {
+    case SafeSave::OpenFailed:
         std::cout << "Cannot open file: " << QFile::encodeName(target).constData() << std::endl;
         return false;
-    }
-    const QByteArray bytes = toBytes();
-    if (file.write(bytes) != bytes.size() || !file.commit()) {
+    case SafeSave::WriteFailed:
         std::cout << "Artfile::save(): could not write " << QFile::encodeName(target).constData() << std::endl;
         return false;
+    case SafeSave::Saved:
+        break;
     }
     return true;
 }

@@ -1,7 +1,8 @@
 #include "DialogueFileNew.h"
 
+#include "SafeSave.h"
+
 #include <QFile>
-#include <QSaveFile>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -174,15 +175,16 @@ void DialogueFileNew::sortLines()
 
 bool DialogueFileNew::save(QFile* file) const
 {
-    QSaveFile out(file ? file->fileName() : QString());
-    if (out.fileName().isEmpty() || !out.open(QIODevice::WriteOnly)) {
+    const QString path = file ? file->fileName() : QString();
+    switch (SafeSave::write(path, toBytes())) {
+    case SafeSave::OpenFailed:
         qWarning("Failed to open file for writing");
         return false;
-    }
-    out.write(toBytes());
-    if (!out.commit()) {
-        qWarning("DialogueFileNew::save(): could not write %s", qUtf8Printable(out.fileName()));
+    case SafeSave::WriteFailed:
+        qWarning("DialogueFileNew::save(): could not write %s", qUtf8Printable(path));
         return false;
+    case SafeSave::Saved:
+        break;
     }
     return true;
 }

@@ -1,9 +1,9 @@
 #include "Mesfile.h"
 
 #include "DialogueFile.h"
+#include "SafeSave.h"
 #include "constants.h"
 
-#include <QSaveFile>
 #include <QTextCodec>
 #include <QTextStream>
 #include <QtDebug>
@@ -346,14 +346,16 @@ bool Mesfile::save(const QString& fileName, QTextCodec* codec)
     QByteArray bytes = codec->fromUnicode(buildText());
     if (utf8Bom && codec->mibEnum() == UTF8_MIB)
         bytes.prepend(UTF8_BOM);
-    QSaveFile out(fileName);
-    if (!out.open(QIODevice::WriteOnly)) {
+    QString error;
+    switch (SafeSave::write(fileName, bytes, &error)) {
+    case SafeSave::OpenFailed:
         qWarning("Failed to open file for writing");
         return false;
-    }
-    if (out.write(bytes) != bytes.size() || !out.commit()) {
-        qWarning("In Mesfile::save(): %s", qPrintable(out.errorString()));
+    case SafeSave::WriteFailed:
+        qWarning("In Mesfile::save(): %s", qPrintable(error));
         return false;
+    case SafeSave::Saved:
+        break;
     }
     return true;
 }

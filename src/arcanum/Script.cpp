@@ -1,10 +1,10 @@
 #include "Script.h"
 
 #include "LittleEndian.h"
+#include "SafeSave.h"
 #include "constants.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <istream>
@@ -143,15 +143,7 @@ QByteArray Script::toBytes() const
 
 bool Script::save(const QString& path) const
 {
-    const QByteArray bytes = toBytes();
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    if (file.write(bytes) != bytes.size()) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit();
+    return SafeSave::write(path, toBytes()) == SafeSave::Saved;
 }
 
 bool Script::loadHeader(std::istream& in)

@@ -1,6 +1,7 @@
 #include "DialogEditPalette.h"
 
 #include "Prompt.h"
+#include "SafeSave.h"
 #include "gui.h"
 #include "ui_DialogEditPalette.h"
 
@@ -9,7 +10,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMimeData>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <iostream>
@@ -179,13 +179,10 @@ void DialogEditPalette::on_buttonLoad_clicked()
 
 bool DialogEditPalette::saveToFile(const QString& path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    const arcanum::SafeSave::Result result = arcanum::SafeSave::write(path, Artfile::paletteToBytes(colours));
+    if (result == arcanum::SafeSave::OpenFailed)
         std::cout << "Cannot open file: " << QFile::encodeName(path).constData() << std::endl;
-        return false;
-    }
-    file.write(Artfile::paletteToBytes(colours));
-    return file.commit();
+    return result == arcanum::SafeSave::Saved;
 }
 
 bool DialogEditPalette::loadFromFile(const QString& path)

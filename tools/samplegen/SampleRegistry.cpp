@@ -1,8 +1,8 @@
 #include "SampleRegistry.h"
 
+#include "SafeSave.h"
 #include "constants.h"
 
-#include <QSaveFile>
 #include <QTextStream>
 
 #include <algorithm>
@@ -44,9 +44,5 @@ bool SampleRegistry::writeAll(const QDir& gameDir)
 
 bool SampleRegistry::writeBytes(const QDir& gameDir, const QString& relativePath, const QByteArray& bytes)
 {
-    QSaveFile file(gameDir.filePath(relativePath));
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(bytes);
-    return file.commit();
+    return arcanum::SafeSave::write(gameDir.filePath(relativePath), bytes) == arcanum::SafeSave::Saved;
 }
