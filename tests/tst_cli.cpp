@@ -88,6 +88,7 @@ const QHash<QString, Plant>& plants()
              writeAt(chest, 90, 65);
          }},
         {"short palette", [](const QString& g) { truncateBy(g + "/data/art/sample_frost.aap", 24); }},
+        {"truncated script", [](const QString& g) { truncateBy(g + "/data/scr/00002night_watch.scr", 10); }},
         {"unknown condition", [](const QString& g) { writeAt(g + "/data/scr/00001gate_guard.scr", 64, 99); }},
         {"invalid mes entry",
          [](const QString& g) { FormatChecks::writeFile(g + "/data/mes/bad.mes", "{1}{ok}\r\n{2}{broken\r\n{3}{x}\r\n"); }},
@@ -198,6 +199,9 @@ private slots:
         QTest::newRow("unknown condition")
             << "unknown condition"
             << "data/scr/00001gate_guard.scr:offset 0x40: error: line 0: condition code 99 is not in the catalogue";
+        QTest::newRow("truncated script") << "truncated script"
+                                          << "data/scr/00002night_watch.scr:offset 0x[0-9a-f]+: error: the file ends "
+                                             "inside line \\d+ of the \\d+ its header counts";
         QTest::newRow("invalid mes entry") << "invalid mes entry"
                                            << "data/mes/bad.mes:2: error: '\\{' at index 3 has no matching '\\}'";
         QTest::newRow("response to nowhere") << "response to nowhere"

@@ -111,18 +111,24 @@ void CheckCommand::checkScript(const QString& path)
         report.errorAt(path, 0, QStringLiteral("not read as a script: its name must begin with the script number"));
         return;
     }
+    checkScriptLength(path);
+    for (int i = 0; i < script.lineTotal(); ++i)
+        checkScriptLine(path, script, i);
+}
+
+// The model makes up the lines a short file lacks, so the length is compared with what the header claims.
+void CheckCommand::checkScriptLength(const QString& path)
+{
     Script claimed;
     std::ifstream head(QFile::encodeName(path).toStdString(), std::ios::binary);
     claimed.loadHeader(head);
+    const qint64 count = qMax(claimed.getHeader().lineCount, 0);
     const qint64 size = QFileInfo(path).size();
-    const qint64 needed = Script::HeaderSize + qint64(qMax(claimed.getHeader().lineCount, 0)) * Script::LineSize;
-    if (size < needed)
-        report.errorAt(path, quint64(size),
-                       QStringLiteral("the file ends inside line %1 of the %2 its header counts")
-                           .arg((size - Script::HeaderSize) / Script::LineSize)
-                           .arg(claimed.getHeader().lineCount));
-    for (int i = 0; i < script.lineTotal(); ++i)
-        checkScriptLine(path, script, i);
+    if (size < Script::HeaderSize)
+        report.errorAt(path, quint64(size), QStringLiteral("the file ends inside the %1-byte header").arg(Script::HeaderSize));
+    else if (size < Script::HeaderSize + count * Script::LineSize)
+        report.errorAt(path, quint64(size), QStringLiteral("the file ends inside line %1 of the %2 its header counts")
+                                                .arg((size - Script::HeaderSize) / Script::LineSize).arg(count));
 }
 
 void CheckCommand::checkScriptLine(const QString& path, const Script& script, int index)

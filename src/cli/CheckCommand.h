@@ -28,6 +28,7 @@ private:
     void checkMes(const QString& path);
     void checkDialogue(const QString& path);
     void checkScript(const QString& path);
+    void checkScriptLength(const QString& path);
     void checkScriptLine(const QString& path, const arcanum::Script& script, int index);
     void checkArt(const QString& path);
     void checkProto(const QString& path);
