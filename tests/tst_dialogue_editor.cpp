@@ -22,7 +22,7 @@
 
 namespace {
 
-const QString SAMPLE = QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game/data/dlg/sample_dialogue.dlg");
+const QString SAMPLE = QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game/damaged/sample_dialogue_damaged.dlg");
 
 // Line 6 of the sample as the editor should write it after the edit of editAndSaveAs().
 const QByteArray LINE_6 = QByteArrayLiteral("\t{6}{Here is what I owe you.}{}{5}{$$ 100, gf 12 1}{40}{$$ -100, gv 7 1}\r\n");

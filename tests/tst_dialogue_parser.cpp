@@ -13,7 +13,7 @@ using namespace arcanum::dlg;
 
 namespace {
 
-const QString SAMPLE = QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game/data/dlg/sample_dialogue.dlg");
+const QString SAMPLE = QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game/damaged/sample_dialogue_damaged.dlg");
 
 DialogueFileNew parse(QString text)
 {

@@ -37,6 +37,26 @@ void ArtRunLength::decode(const QByteArray& data, quint8* pixels, std::size_t pi
     }
 }
 
+quint64 ArtRunLength::decodedLength(const QByteArray& data)
+{
+    const auto* bytes = reinterpret_cast<const quint8*>(data.constData());
+    const std::size_t size = std::size_t(data.size());
+    std::size_t pos = 0;
+    quint64 length = 0;
+    while (pos < size) {
+        const quint8 control = bytes[pos++];
+        const std::size_t n = control & MAX_RUN;
+        if (control & LITERAL_BIT) {
+            length += std::min(n, size - pos);
+            pos += std::min(n, size - pos);
+        } else if (pos < size) {
+            length += n;
+            ++pos;
+        }
+    }
+    return length;
+}
+
 std::size_t ArtRunLength::repeatLength(const quint8* pixels, std::size_t from, std::size_t count)
 {
     std::size_t end = from + 1;

@@ -17,6 +17,9 @@ public:
     // after the last pixel is dropped and a run cut short by the end of data emits what it has;
     // pixels no run reaches are left as they are.
     static void decode(const QByteArray& data, quint8* pixels, std::size_t pixelCount);
+    // How many pixels the data would produce if nothing were cut off: compared with a frame's pixel
+    // count it tells a frame whose runs over- or under-fill it.
+    static quint64 decodedLength(const QByteArray& data);
 
     // Encodes pixelCount pixels. The result never has exactly pixelCount bytes, because a frame whose
     // data size equals its pixel count is read as raw.

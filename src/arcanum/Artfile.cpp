@@ -101,10 +101,13 @@ void Artfile::load(std::string newPath)
     QFile file(QFile::decodeName(QByteArray::fromStdString(newPath)));
     if (!file.open(QIODevice::ReadOnly)) {
         std::cout << "Cannot open file: " << newPath << std::endl;
+        fail(0, QStringLiteral("cannot be opened"));
         return;
     }
     const QByteArray bytes = file.readAll();
     clear();
+    failure.clear();
+    failureOffset = 0;
     if (!parse(bytes)) {
         std::cout << "Artfile::load(): " << newPath << " is damaged or not an art file." << std::endl;
         clear();
@@ -116,7 +119,7 @@ void Artfile::load(std::string newPath)
 bool Artfile::parse(const QByteArray& bytes)
 {
     if (bytes.size() < qsizetype(HEADER_SIZE))
-        return false;
+        return fail(bytes.size(), QStringLiteral("the file ends inside the %1-byte header").arg(HEADER_SIZE));
     std::copy_n(reinterpret_cast<const quint8*>(bytes.constData()), HEADER_SIZE, header.begin());
     readCounts();
     qsizetype pos = HEADER_SIZE;
@@ -145,7 +148,8 @@ void Artfile::readCounts()
 bool Artfile::readPalettes(const QByteArray& bytes, qsizetype& pos)
 {
     if (bytes.size() - pos < qsizetype(paletteCount * PALETTE_BYTES))
-        return false;
+        return fail(pos, QStringLiteral("%1 palettes need %2 bytes, %3 are left")
+                             .arg(paletteCount).arg(paletteCount * PALETTE_BYTES).arg(bytes.size() - pos));
     for (unsigned p = 0; p < paletteCount; ++p) {
         paletteFromBytes(bytes.mid(pos, PALETTE_BYTES), palettes[p]);
         pos += PALETTE_BYTES;
@@ -160,7 +164,9 @@ bool Artfile::readFrameHeaders(const QByteArray& bytes, qsizetype& pos)
     const quint64 framesEach = directions ? headerWord(FRAME_COUNT) : 1;
     // Checked before anything is allocated: the counts come straight from the file.
     if (quint64(bytes.size() - pos) < imageTotal * framesEach * FRAME_HEADER_SIZE)
-        return false;
+        return fail(pos, QStringLiteral("%1 images of %2 frames need %3 bytes of frame headers, %4 are left")
+                             .arg(imageTotal).arg(framesEach).arg(imageTotal * framesEach * FRAME_HEADER_SIZE)
+                             .arg(bytes.size() - pos));
     frameCount = unsigned(framesEach);
     images.assign(imageTotal, std::vector<Image>(framesEach));
     for (std::vector<Image>& frames : images) {
@@ -180,15 +186,39 @@ bool Artfile::readFrameHeaders(const QByteArray& bytes, qsizetype& pos)
 
 bool Artfile::readPixelData(const QByteArray& bytes, qsizetype& pos)
 {
-    for (std::vector<Image>& frames : images) {
-        for (Image& frame : frames) {
+    for (std::size_t i = 0; i < images.size(); ++i) {
+        for (std::size_t f = 0; f < images[i].size(); ++f) {
+            Image& frame = images[i][f];
             if (quint64(bytes.size() - pos) < frame.dataSize)
-                return false;
+                return fail(pos, QStringLiteral("image %1 frame %2 needs %3 bytes of pixel data, %4 are left")
+                                     .arg(i).arg(f).arg(frame.dataSize).arg(bytes.size() - pos));
             frame.data = bytes.mid(pos, qsizetype(frame.dataSize));
             pos += qsizetype(frame.dataSize);
         }
     }
     return true;
+}
+
+bool Artfile::fail(qsizetype offset, const QString& why)
+{
+    failureOffset = quint64(offset);
+    failure = why;
+    return false;
+}
+
+quint64 Artfile::frameDataOffset(unsigned image, unsigned frame) const
+{
+    quint64 offset = HEADER_SIZE + quint64(paletteCount) * PALETTE_BYTES;
+    for (const std::vector<Image>& frames : images)
+        offset += quint64(frames.size()) * FRAME_HEADER_SIZE;
+    for (unsigned i = 0; i < images.size(); ++i) {
+        for (unsigned f = 0; f < images[i].size(); ++f) {
+            if (i == image && f == frame)
+                return offset;
+            offset += images[i][f].data.size();
+        }
+    }
+    return offset;
 }
 
 // ---------------------------------------------------------------------------------------------

@@ -70,6 +70,11 @@ public:
     // The bytes save would write (empty when there are no images).
     QByteArray toBytes() const;
     bool isLoaded() const { return !images.empty(); }
+    // Why the last load left the model empty, and the file offset where reading gave up.
+    const QString& loadFailure() const { return failure; }
+    quint64 loadFailureOffset() const { return failureOffset; }
+    // Where a frame's pixel data starts in the bytes toBytes writes (as read, for an untouched file).
+    quint64 frameDataOffset(unsigned image, unsigned frame) const;
     void clear();
     const std::string& getPath() const { return path; }
     void setPath(const std::string& newPath) { path = newPath; }
@@ -115,6 +120,7 @@ private:
     bool readPalettes(const QByteArray& bytes, qsizetype& pos);
     bool readFrameHeaders(const QByteArray& bytes, qsizetype& pos);
     bool readPixelData(const QByteArray& bytes, qsizetype& pos);
+    bool fail(qsizetype offset, const QString& why);
     void fillPixels(const Image& frame, QImage& out) const;
 
     std::string path;
@@ -129,6 +135,8 @@ private:
     std::vector<std::vector<Image>> images;
     // Bytes after the last frame's pixel data, written back unchanged.
     QByteArray trailer;
+    QString failure;
+    quint64 failureOffset = 0;
 };
 
 } // namespace arcanum

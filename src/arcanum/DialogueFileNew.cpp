@@ -62,15 +62,22 @@ void DialogueFileNew::read(QTextStream& stream)
     mNpcLines.clear();
     mPcLines.clear();
     mUnreadText.clear();
+    mUnreadLine = 0;
     bool atEnd = false;
-    while (!atEnd && readEntry(stream, &atEnd)) {
+    int line = 1;
+    while (!atEnd && readEntry(stream, &atEnd, line)) {
     }
 }
 
-bool DialogueFileNew::readEntry(QTextStream& stream, bool* atEnd)
+// line: the file's line the entry starts on; on return, the line after it.
+bool DialogueFileNew::readEntry(QTextStream& stream, bool* atEnd, int& line)
 {
     Entry entry = nextEntry(stream, atEnd);
+    const int first = line;
+    const int start = first + static_cast<int>(entry.text.left(qMax(entry.start, 0)).count(QLatin1Char('\n')));
+    line += static_cast<int>(entry.text.count(QLatin1Char('\n'))) + 1;
     if (entry.items.size() < ENTRY_ITEM_COUNT) {
+        mUnreadLine = first;
         if (keepUnread(entry.text, stream))
             qWarning("Size of read items list  smaller than minimal size: %d instead of %d",
                      static_cast<int>(entry.items.size()), ENTRY_ITEM_COUNT);
@@ -80,15 +87,19 @@ bool DialogueFileNew::readEntry(QTextStream& stream, bool* atEnd)
     const int index = entry.items.first().trimmed().toInt(&ok, 10);
     if (!ok) {
         qWarning("Index could not be parsed: string was %s", qUtf8Printable(entry.items.first()));
+        mUnreadLine = first;
         keepUnread(entry.text, stream);
         return false;
     }
     entry.items.removeFirst();
     const QString readText = entry.text.mid(entry.start);
-    if (isNPCLine(entry.items))
+    if (isNPCLine(entry.items)) {
         mNpcLines << NPCLinePointer(new NPCLine(index, entry.items, entry.trailing, readText));
-    else
+        mNpcLines.last()->setSourceLine(start);
+    } else {
         mPcLines << PCLinePointer(new PCLine(index, entry.items, entry.trailing, readText));
+        mPcLines.last()->setSourceLine(start);
+    }
     return true;
 }
 
@@ -99,8 +110,10 @@ bool DialogueFileNew::keepUnread(const QString& entryText, QTextStream& stream)
     mUnreadText = entryText;
     while (!stream.atEnd())
         mUnreadText += QLatin1Char('\n') + stream.readLine();
-    if (mUnreadText.trimmed().isEmpty())
+    if (mUnreadText.trimmed().isEmpty()) {
         mUnreadText.clear();
+        mUnreadLine = 0;
+    }
     while (mUnreadText.endsWith(QLatin1Char('\n')))
         mUnreadText.chop(1);
     return !mUnreadText.isEmpty();

@@ -100,6 +100,9 @@ public:
         void setError(const QString& message, const QStringList& items, const QString& trailing);
 
         bool isEdited() const { return mEdited; }
+        // The 1-based line of the file the entry's first "{" stands on; 0 for a line not read from a file.
+        int sourceLine() const { return mSourceLine; }
+        void setSourceLine(int line) { mSourceLine = line; }
         // From now on the line is written from its fields, even if it had problems when read.
         void markEdited() { mEdited = true; }
 
@@ -130,6 +133,7 @@ public:
         QString mReadText;
         std::unique_ptr<LineErrors> mErrors;
         bool mEdited = false;
+        int mSourceLine = 0;
     };
 
     // A response the player may choose.
@@ -247,6 +251,8 @@ public:
     // The rest of the file from the entry where reading stopped (a short last entry or an index that is
     // not a number): not shown as lines, but written back after them so saving loses nothing.
     const QString& unreadText() const { return mUnreadText; }
+    // The 1-based line of the file that unread text starts on; 0 when everything was read.
+    int unreadLine() const { return mUnreadLine; }
 
     // Reads the next entry: its items (at most seven) and the text after the seventh "}" on its line.
     static QPair<QStringList, QString> getNextEntry(QTextStream& stream, bool* atEnd);
@@ -278,7 +284,7 @@ private:
         int start = -1;
     };
     static Entry nextEntry(QTextStream& stream, bool* atEnd);
-    bool readEntry(QTextStream& stream, bool* atEnd);
+    bool readEntry(QTextStream& stream, bool* atEnd, int& line);
     bool keepUnread(const QString& entryText, QTextStream& stream);
     static QString withWindowsLineEnds(QString text);
 
@@ -286,6 +292,7 @@ private:
     QList<NPCLinePointer> mNpcLines;
     QList<PCLinePointer> mPcLines;
     QString mUnreadText;
+    int mUnreadLine = 0;
 };
 
 } // namespace arcanum

@@ -310,16 +310,26 @@ void Mesfile::readEntries(const QString& decoded)
     QTextStream stream(&text, QIODevice::ReadOnly);
     bool atEnd = false;
     QString first = getDataUpToNextEntry(stream, &atEnd);
-    if (first.isEmpty())
+    int line = 1;
+    // Counted before the entry is made: an entry may take its chunk apart.
+    auto addEntry = [this, &line](QString& chunk) {
+        const int start = line;
+        line += static_cast<int>(chunk.count(QLatin1Char('\n')));
+        entries.emplace_back(newEntry(chunk));
+        entries.back()->setSourceLine(start);
+    };
+    if (first.isEmpty()) {
         qWarning("no data in file");
-    else if (trimFront(first).startsWith(OPEN_CHAR))
-        entries.emplace_back(newEntry(first));
-    else
+    } else if (trimFront(first).startsWith(OPEN_CHAR)) {
+        addEntry(first);
+    } else {
         header = first;
+        line += static_cast<int>(first.count(QLatin1Char('\n')));
+    }
     while (!atEnd) {
         QString chunk = getDataUpToNextEntry(stream, &atEnd);
         if (!chunk.isEmpty())
-            entries.emplace_back(newEntry(chunk));
+            addEntry(chunk);
     }
 }
 

@@ -42,6 +42,9 @@ public:
         bool isValid() const { return valid; }
         int getMesIndex() const { return mesIndex; }
         void setMesIndex(int index) { mesIndex = index; }
+        // The 1-based line of the file the entry starts on; 0 for an entry not read from a file.
+        int getSourceLine() const { return sourceLine; }
+        void setSourceLine(int line) { sourceLine = line; }
         QString getValidationError() const;
         // Keeps the chunk whole as the skeleton, so the line is written back as it was read.
         void setErrorState(const QString& message, const QString& chunk);
@@ -60,6 +63,7 @@ public:
         bool valid = false;
         QString comment;
         int mesIndex = 0;
+        int sourceLine = 0;
     };
 
     // An entry of a message file: one item, the text.

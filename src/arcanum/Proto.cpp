@@ -19,9 +19,11 @@ Proto::~Proto()
 void Proto::load(const std::string& fromPath)
 {
     clear();
+    fail(std::string(), 0);
     ibytestream in(fromPath);
     if (!in.ok()) {
         std::cout << "Proto::load() failed: can't open " << fromPath << std::endl;
+        fail("cannot be opened", 0);
         return;
     }
     if (!readHeader(in))
@@ -36,6 +38,7 @@ bool Proto::readHeader(ibytestream& in)
     in.read32(signature);
     if (signature != SIGNATURE) {
         std::cout << "Proto::load() failed: wrong signature." << std::endl;
+        fail("wrong signature " + std::to_string(signature) + ", expected " + std::to_string(SIGNATURE), 0);
         return false;
     }
     in.read16(head.word).readBlock(head.unknown1);
@@ -44,6 +47,7 @@ bool Proto::readHeader(ibytestream& in)
     // type is known.
     if (!in.ok()) {
         std::cout << "Proto::load() failed: the file ends inside the header." << std::endl;
+        fail("the file ends inside the header", in.position());
         head = Header();
         return false;
     }
@@ -56,10 +60,12 @@ bool Proto::readData(ibytestream& in)
     data = makeData(head.itemType);
     if (!data) {
         std::cout << "Read method unimplemented fot ItemType: " << head.itemType << std::endl;
+        fail("unknown item type " + std::to_string(head.itemType), DATA_OFFSET - 4);
         return true;
     }
     if (!data->read(in)) {
         std::cout << "Proto::load() failed: damaged file: " << in.whyDamaged() << '.' << std::endl;
+        fail(in.damaged() ? in.whyDamaged() : "damaged data block", in.damageOffset());
         clear();
         return false;
     }
@@ -84,6 +90,12 @@ bool Proto::save(const std::string& toPath) const
         return false;
     }
     return true;
+}
+
+void Proto::fail(const std::string& why, std::uint64_t offset)
+{
+    failure = why;
+    failureOffset = offset;
 }
 
 void Proto::writeHeader(obytestream& out) const

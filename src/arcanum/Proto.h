@@ -146,6 +146,9 @@ public:
     bool save(const std::string& path) const;
     void clear();
     bool isLoaded() const;
+    // Why the last load did not make a prototype, and the file offset of the field at fault.
+    const std::string& loadFailure() const { return failure; }
+    std::uint64_t loadFailureOffset() const { return failureOffset; }
     // An empty prototype of the given type, not tied to a file, for writing new ones; false for a
     // number that is no item type.
     bool create(std::uint32_t itemType);
@@ -171,10 +174,13 @@ private:
     bool readHeader(ibytestream& in);
     bool readData(ibytestream& in);
     void writeHeader(obytestream& out) const;
+    void fail(const std::string& why, std::uint64_t offset);
 
     Header head;
     std::unique_ptr<Data> data;
     std::string path;
+    std::string failure;
+    std::uint64_t failureOffset = 0;
 };
 
 } // namespace arcanum

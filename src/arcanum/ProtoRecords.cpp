@@ -49,7 +49,8 @@ bool Proto::Sparse::refuseCount(ibytestream& in, std::uint64_t room) const
 {
     std::ostringstream why;
     why << name() << " count " << count << " is more than the room for " << room;
-    return in.refuse(why.str());
+    // The count is followed by one kept word.
+    return in.refuse(why.str(), 8);
 }
 
 bool Proto::Sparse::checkMask(ibytestream& in) const
@@ -59,7 +60,7 @@ bool Proto::Sparse::checkMask(ibytestream& in) const
         return !in.damaged();
     std::ostringstream why;
     why << name() << " count " << count << " disagrees with its mask 0x" << std::hex << mask();
-    return in.refuse(why.str());
+    return in.refuse(why.str(), 8);
 }
 
 bool Proto::Optional::readElements(ibytestream& in)
@@ -71,7 +72,7 @@ bool Proto::Optional::readElements(ibytestream& in)
         std::ostringstream why;
         why << name() << " of " << size << " bytes is larger than the " << in.remaining()
             << " bytes left in the file";
-        return in.refuse(why.str());
+        return in.refuse(why.str(), 8);
     }
     bytes.assign(static_cast<std::size_t>(size), 0);
     in.readBlock(bytes);

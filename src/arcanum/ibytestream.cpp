@@ -43,10 +43,21 @@ std::vector<std::uint8_t> ibytestream::readRest()
     return rest;
 }
 
-bool ibytestream::refuse(const std::string& why)
+std::uint64_t ibytestream::position()
 {
-    if (damage.empty())
+    if (!ok())
+        return size;
+    const std::streamoff at = tellg();
+    return at < 0 ? size : static_cast<std::uint64_t>(at);
+}
+
+bool ibytestream::refuse(const std::string& why, std::uint64_t fieldSize)
+{
+    if (damage.empty()) {
         damage = why;
+        const std::uint64_t end = position();
+        damageAt = end >= fieldSize ? end - fieldSize : 0;
+    }
     setstate(std::ios::failbit);
     return false;
 }

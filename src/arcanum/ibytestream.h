@@ -39,10 +39,15 @@ public:
     // Everything up to the end of the file.
     std::vector<std::uint8_t> readRest();
 
-    // Marks the file as damaged; returns false so a reader can `return in.refuse(...)`.
-    bool refuse(const std::string& why);
+    // Marks the file as damaged; returns false so a reader can `return in.refuse(...)`. The field
+    // that proved it ends at the read position and is fieldSize bytes long.
+    bool refuse(const std::string& why, std::uint64_t fieldSize = 0);
     bool damaged() const { return !damage.empty(); }
     const std::string& whyDamaged() const { return damage; }
+    // Where the field that refused the file starts.
+    std::uint64_t damageOffset() const { return damageAt; }
+    // The read position; the file's size once a read ran out.
+    std::uint64_t position();
 
 private:
     template <typename T>
@@ -63,6 +68,7 @@ private:
 
     std::uint64_t size = 0;
     std::string damage;
+    std::uint64_t damageAt = 0;
 };
 
 } // namespace arcanum

@@ -61,19 +61,31 @@ void answers(SampleDialogue& d)
     d.pc(22, {text("Make me."), {}, text("-4"), {}, text("0"), text("co")}, text(" // starts a fight"));
     d.npc(30, {text("Tobbin? He left for Tarant last week."), {}, {}, {}, text("1"), text("gf 12 1")});
     d.npc(40, {text("Much obliged. Your debt is settled."), {}, {}, {}, {}, text("al 1")});
-    // Two lines a careless modder might write: an unknown test and a response line that is not a number.
-    d.pc(41, {text("I want a discount."), {}, text("5"), text("zz 1"), text("40"), {}});
-    d.pc(42, {text("Let us haggle."), {}, text("5"), text("ha 3"), text("later"), {}});
     d.npc(50, {text("Добро пожаловать, путник!"), text("Добро пожаловать, путница!"), {}, {}, {}, {}});
     d.pc(51, {text("Спасибо."), {}, text("1"), {}, text("0"), {}});
 }
 
+// Two lines a careless modder might write: an unknown test and a response line that is not a number.
+void mistakes(SampleDialogue& d)
+{
+    d.pc(41, {text("I want a discount."), {}, text("5"), text("zz 1"), text("40"), {}});
+    d.pc(42, {text("Let us haggle."), {}, text("5"), text("ha 3"), text("later"), {}});
+}
+
+// The game's data stays clean; the same dialogue with mistakes lies outside "data/", to show how the
+// dialogue editor marks lines it cannot read.
 bool writeDialogue(const QDir& game)
 {
-    SampleDialogue dialogue;
-    greeting(dialogue);
-    answers(dialogue);
-    return dialogue.save(game.filePath(QStringLiteral("data/dlg/sample_dialogue.dlg")));
+    SampleDialogue clean;
+    greeting(clean);
+    answers(clean);
+    SampleDialogue damaged;
+    greeting(damaged);
+    answers(damaged);
+    mistakes(damaged);
+    return clean.save(game.filePath(QStringLiteral("data/dlg/sample_dialogue.dlg")))
+        && game.mkpath(QStringLiteral("damaged"))
+        && damaged.save(game.filePath(QStringLiteral("damaged/sample_dialogue_damaged.dlg")));
 }
 
 const SampleRegistration registration("dialogue", &writeDialogue);

@@ -66,7 +66,7 @@ QList<MessageSample> messageSamples()
           QStringLiteral("{3}{Me want food!}{}{-3}{}{20}{}"),
           QStringLiteral("{4}{Never mind.}{}{4}{}{0}{}"),
           QStringLiteral("{10}{That will be ten coins.}{}{}{}{}{}"),
-          QStringLiteral("{11}{Here you are.}{}{4}{gm 10}{0}{tm -10}"),
+          QStringLiteral("{11}{Here you are.}{}{4}{$$ 10}{0}{$$ -10}"),
           QStringLiteral("{12}{Too rich for me.}{}{4}{}{0}{}"),
           QStringLiteral("{20}{You will get soup and be quiet.}{}{}{}{}{}"),
           QStringLiteral("{21}{Thanks.}{}{-3}{}{0}{}")}},

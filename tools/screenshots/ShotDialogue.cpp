@@ -10,13 +10,19 @@
 
 namespace {
 
-DialogueEditWidget& sampleDialogue(MainWindow& window)
+DialogueEditWidget& dialogueOpen(MainWindow& window, const QString& relativePath)
 {
     ShotRegistry::showTab(window, 2);
     DialogueEditWidget& page = *window.dialoguePage();
-    if (!page.getModel())
-        page.loadFile(QDir::current().absoluteFilePath(arcanum::DLG_DIR + QStringLiteral("sample_dialogue.dlg")));
+    const QString path = QDir::current().absoluteFilePath(relativePath);
+    if (page.getPath() != path)
+        page.loadFile(path);
     return page;
+}
+
+DialogueEditWidget& sampleDialogue(MainWindow& window)
+{
+    return dialogueOpen(window, arcanum::DLG_DIR + QStringLiteral("sample_dialogue.dlg"));
 }
 
 QWidget* pcLine(MainWindow& window)
@@ -33,7 +39,7 @@ QWidget* npcLine(MainWindow& window)
 
 QWidget* brokenLine(MainWindow& window)
 {
-    sampleDialogue(window).openPcLine(41);
+    dialogueOpen(window, QStringLiteral("damaged/sample_dialogue_damaged.dlg")).openPcLine(41);
     return nullptr;
 }
 

@@ -1,0 +1,180 @@
+#include "CheckCommand.h"
+
+#include "CommandLine.h"
+#include "DialogueChecks.h"
+#include "FileDump.h"
+#include "FileWalker.h"
+#include "ScriptStatement.h"
+
+#include "ArtRunLength.h"
+#include "Artfile.h"
+#include "DialogueFileNew.h"
+#include "Mesfile.h"
+#include "Proto.h"
+#include "Script.h"
+#include "gui.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <fstream>
+
+using namespace arcanum;
+
+CheckCommand::CheckCommand(QTextCodec* mesCodec)
+    : codec(mesCodec)
+{
+}
+
+int CheckCommand::run(const QString& dir)
+{
+    const QString base = dir.isEmpty() ? QDir::cleanPath(gui::getBaseDir().path()) : dir;
+    const QString data = QDir::cleanPath(base + QStringLiteral("/data"));
+    if (!QFileInfo(data).isDir()) {
+        report.ioError(data, QStringLiteral("no such folder"));
+        return CommandLine::Failure;
+    }
+    report.ignore(base, ignoreList(base));
+    const QStringList files = FileWalker({"mes", "dlg", "scr", "art", "pro", "aap"}).files(data);
+    for (int i = 0; i < files.size(); ++i) {
+        report.progress(i + 1, int(files.size()), files.at(i));
+        checkFile(files.at(i));
+    }
+    report.summary();
+    return report.exitCode();
+}
+
+// ".lorekaignore" in DIR: one "path" or "path:line" a line; blank lines and "#" comments are skipped.
+QStringList CheckCommand::ignoreList(const QString& base)
+{
+    QFile file(QDir(base).filePath(QStringLiteral(".lorekaignore")));
+    QStringList entries;
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return entries;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
+        const QString entry = line.trimmed();
+        if (!entry.isEmpty() && !entry.startsWith(QLatin1Char('#')))
+            entries << entry;
+    }
+    return entries;
+}
+
+void CheckCommand::checkFile(const QString& path)
+{
+    report.fileChecked();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        report.ioError(path, QStringLiteral("cannot be read: %1").arg(file.errorString()));
+        return;
+    }
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("mes"))
+        checkMes(path);
+    else if (suffix == QLatin1String("dlg"))
+        checkDialogue(path);
+    else if (suffix == QLatin1String("scr"))
+        checkScript(path);
+    else if (suffix == QLatin1String("art"))
+        checkArt(path);
+    else if (suffix == QLatin1String("pro"))
+        checkProto(path);
+    else
+        checkPalette(path);
+}
+
+void CheckCommand::checkMes(const QString& path)
+{
+    Mesfile mes(path);
+    if (QFileInfo(path).size() == 0 || !mes.load(codec))
+        return; // an empty message file is allowed
+    for (int i = 0; i < mes.getEntryCount(); ++i) {
+        const Mesfile::Entry* entry = mes.getEntryAt(i);
+        if (!entry->isValid())
+            report.error(path, entry->getSourceLine(), entry->getValidationError());
+    }
+}
+
+void CheckCommand::checkDialogue(const QString& path)
+{
+    QFile file(path);
+    DialogueFileNew dialogue(&file);
+    dialogue.load();
+    for (const DialogueChecks::Problem& problem : DialogueChecks(dialogue).problems())
+        report.error(path, problem.line, problem.message);
+}
+
+void CheckCommand::checkScript(const QString& path)
+{
+    Script script;
+    if (!script.load(path)) {
+        report.errorAt(path, 0, QStringLiteral("not read as a script: its name must begin with the script number"));
+        return;
+    }
+    checkScriptLength(path);
+    for (int i = 0; i < script.lineTotal(); ++i)
+        checkScriptLine(path, script, i);
+}
+
+// The model makes up the lines a short file lacks, so the length is compared with what the header claims.
+void CheckCommand::checkScriptLength(const QString& path)
+{
+    Script claimed;
+    std::ifstream head(QFile::encodeName(path).toStdString(), std::ios::binary);
+    claimed.loadHeader(head);
+    const qint64 count = qMax(claimed.getHeader().lineCount, 0);
+    const qint64 size = QFileInfo(path).size();
+    if (size < Script::HeaderSize)
+        report.errorAt(path, quint64(size), QStringLiteral("the file ends inside the %1-byte header").arg(Script::HeaderSize));
+    else if (size < Script::HeaderSize + count * Script::LineSize)
+        report.errorAt(path, quint64(size), QStringLiteral("the file ends inside line %1 of the %2 its header counts")
+                                                .arg((size - Script::HeaderSize) / Script::LineSize).arg(count));
+}
+
+void CheckCommand::checkScriptLine(const QString& path, const Script& script, int index)
+{
+    for (const ScriptStatement& statement : ScriptStatement::ofLine(script, index)) {
+        for (const ScriptStatement::Problem& problem : statement.problems())
+            report.errorAt(path, problem.offset, QStringLiteral("line %1: %2").arg(index).arg(problem.message));
+    }
+}
+
+void CheckCommand::checkArt(const QString& path)
+{
+    Artfile art;
+    art.load(QFile::encodeName(path).toStdString());
+    if (!art.isLoaded()) {
+        report.errorAt(path, art.loadFailureOffset(), FileDump::artFailure(art));
+        return;
+    }
+    for (unsigned i = 0; i < art.getImageCount(); ++i) {
+        for (unsigned f = 0; f < art.getFrameCount(); ++f) {
+            const Artfile::Image* frame = art.getImage(i, f);
+            if (!frame || frame->isRaw())
+                continue;
+            const quint64 pixels = quint64(frame->width) * frame->height;
+            const quint64 filled = ArtRunLength::decodedLength(frame->data);
+            if (filled != pixels)
+                report.errorAt(path, art.frameDataOffset(i, f),
+                               QStringLiteral("image %1 frame %2: its runs %3 %4 pixels of a %5x%6 frame")
+                                   .arg(i).arg(f).arg(filled > pixels ? "overfill it with" : "fill only")
+                                   .arg(filled).arg(frame->width).arg(frame->height));
+        }
+    }
+}
+
+void CheckCommand::checkProto(const QString& path)
+{
+    Proto proto;
+    proto.load(QFile::encodeName(path).toStdString());
+    if (!proto.isLoaded())
+        report.errorAt(path, proto.loadFailureOffset(), QString::fromStdString(proto.loadFailure()));
+}
+
+void CheckCommand::checkPalette(const QString& path)
+{
+    const qint64 size = QFileInfo(path).size();
+    if (size != Artfile::PALETTE_BYTES)
+        report.errorAt(path, quint64(qMin<qint64>(size, Artfile::PALETTE_BYTES)),
+                       QStringLiteral("a palette file has %1 bytes, not %2").arg(size).arg(Artfile::PALETTE_BYTES));
+}

@@ -1,0 +1,85 @@
+#include "Diagnostics.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cstdio>
+#include <unistd.h>
+
+Diagnostics::Diagnostics()
+    : out(stdout)
+    , err(stderr)
+    , terminal(isatty(fileno(stderr)) != 0)
+{
+}
+
+void Diagnostics::error(const QString& path, int line, const QString& message)
+{
+    print(path, QString::number(qMax(line, 1)), message);
+}
+
+void Diagnostics::errorAt(const QString& path, quint64 offset, const QString& message)
+{
+    print(path, QStringLiteral("offset 0x%1").arg(offset, 0, 16), message);
+}
+
+void Diagnostics::ioError(const QString& path, const QString& message)
+{
+    ioFailed = true;
+    print(path, QString(), message);
+}
+
+void Diagnostics::ignore(const QString& base, const QStringList& entries)
+{
+    ignoreBase = base;
+    ignoreEntries = entries;
+}
+
+bool Diagnostics::isIgnored(const QString& path, const QString& where) const
+{
+    const QString relative = QDir(QFileInfo(ignoreBase).absoluteFilePath()).relativeFilePath(QFileInfo(path).absoluteFilePath());
+    return ignoreEntries.contains(relative) || ignoreEntries.contains(relative + QLatin1Char(':') + where);
+}
+
+void Diagnostics::print(const QString& path, const QString& where, const QString& message)
+{
+    if (isIgnored(path, where)) {
+        ++ignored;
+        return;
+    }
+    clearProgress();
+    ++problems;
+    out << path << (where.isEmpty() ? QString() : QLatin1Char(':') + where) << ": error: " << message << Qt::endl;
+}
+
+void Diagnostics::progress(int done, int total, const QString& path)
+{
+    if (!terminal)
+        return;
+    err << "\r\x1b[K" << done << '/' << total << ' ' << path << Qt::flush;
+    progressShown = true;
+}
+
+void Diagnostics::clearProgress()
+{
+    if (progressShown)
+        err << "\r\x1b[K" << Qt::flush;
+    progressShown = false;
+}
+
+void Diagnostics::summary()
+{
+    clearProgress();
+    out << files << (files == 1 ? " file" : " files") << " checked, " << problems
+        << (problems == 1 ? " problem" : " problems");
+    if (ignored > 0)
+        out << " (" << ignored << " ignored)";
+    out << Qt::endl;
+}
+
+int Diagnostics::exitCode() const
+{
+    if (ioFailed)
+        return 2;
+    return problems > 0 ? 1 : 0;
+}

@@ -1,0 +1,56 @@
+#include "DumpCommand.h"
+
+#include "CommandLine.h"
+#include "FileDump.h"
+#include "JsonText.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QTextStream>
+
+#include <cstdio>
+
+DumpCommand::DumpCommand(QTextCodec* mesCodec, bool json)
+    : codec(mesCodec)
+    , asJson(json)
+{
+}
+
+int DumpCommand::run(const QString& path)
+{
+    QTextStream err(stderr);
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isReadable()) {
+        err << path << ": error: cannot be read" << Qt::endl;
+        return CommandLine::Failure;
+    }
+    const QString suffix = info.suffix().toLower();
+    QJsonObject dump;
+    if (suffix == QLatin1String("mes"))
+        dump = FileDump::mes(path, codec);
+    else if (suffix == QLatin1String("dlg"))
+        dump = FileDump::dialogue(path);
+    else if (suffix == QLatin1String("scr"))
+        dump = FileDump::script(path);
+    else if (suffix == QLatin1String("art"))
+        dump = FileDump::art(path);
+    else if (suffix == QLatin1String("pro"))
+        dump = FileDump::proto(path);
+    else if (suffix == QLatin1String("aap"))
+        dump = FileDump::palette(path);
+    else {
+        err << path << ": error: not a .mes, .dlg, .scr, .art, .pro or .aap file" << Qt::endl;
+        return CommandLine::Failure;
+    }
+    if (dump.contains(QLatin1String("error"))) {
+        err << path << ": error: " << dump.value(QLatin1String("error")).toString() << Qt::endl;
+        return CommandLine::Problems;
+    }
+    dump.insert(QStringLiteral("file"), path);
+    QTextStream out(stdout);
+    if (asJson)
+        out << QJsonDocument(dump).toJson(QJsonDocument::Indented);
+    else
+        JsonText(out).print(dump);
+    return CommandLine::Clean;
+}

@@ -1,0 +1,333 @@
+// Runs the built `loreka` program on copies of the sample game.
+#include "FormatChecks.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+const QString SAMPLE_GAME = QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game");
+
+struct Run
+{
+    int code = -1;
+    QString out;
+    QString err;
+    QStringList lines() const { return out.split(QLatin1Char('\n'), Qt::SkipEmptyParts); }
+};
+
+Run loreka(const QStringList& arguments, const QString& workingDir = QString())
+{
+    QProcess process;
+    process.setWorkingDirectory(workingDir.isEmpty() ? QDir::currentPath() : workingDir);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("QT_QPA_PLATFORM")); // it must not need a display
+    environment.remove(QStringLiteral("DISPLAY"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(LOREKA_CLI), arguments);
+    Run run;
+    if (!process.waitForFinished(60000))
+        return run;
+    run.code = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    run.out = QString::fromUtf8(process.readAllStandardOutput());
+    run.err = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+
+void copyTree(const QString& from, const QString& to)
+{
+    QDirIterator it(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString source = it.next();
+        const QString target = to + source.mid(from.size());
+        QDir().mkpath(QFileInfo(target).path());
+        QVERIFY(QFile::copy(source, target));
+    }
+}
+
+void writeAt(const QString& path, qsizetype offset, quint32 value)
+{
+    QByteArray bytes = FormatChecks::readFile(path);
+    qToLittleEndian(value, bytes.data() + offset);
+    QVERIFY(FormatChecks::writeFile(path, bytes));
+}
+
+void truncateBy(const QString& path, qsizetype bytes)
+{
+    const QByteArray whole = FormatChecks::readFile(path);
+    QVERIFY(FormatChecks::writeFile(path, whole.left(whole.size() - bytes)));
+}
+
+using Plant = std::function<void(const QString& game)>;
+
+// Each defect a modder could make, planted in a copy of the sample game.
+const QHash<QString, Plant>& plants()
+{
+    static const QHash<QString, Plant> all = {
+        {"truncated art", [](const QString& g) { truncateBy(g + "/data/art/sample_potion.art", 10); }},
+        // The frame claims two more columns than its runs fill (header words after two palettes).
+        {"art runs underfill", [](const QString& g) { writeAt(g + "/data/art/sample_beetle.art", 132 + 2048, 50); }},
+        {"wrong signature", [](const QString& g) { writeAt(g + "/data/proto/wall_stone.pro", 0, 1); }},
+        // The chest's first optional record becomes present with a count past its 64 bits.
+        {"damaged proto count",
+         [](const QString& g) {
+             const QString chest = g + "/data/proto/container_chest.pro";
+             writeAt(chest, 85, 1);
+             writeAt(chest, 86, 4);
+             writeAt(chest, 90, 65);
+         }},
+        {"short palette", [](const QString& g) { truncateBy(g + "/data/art/sample_frost.aap", 24); }},
+        {"truncated script", [](const QString& g) { truncateBy(g + "/data/scr/00002night_watch.scr", 10); }},
+        {"unknown condition", [](const QString& g) { writeAt(g + "/data/scr/00001gate_guard.scr", 64, 99); }},
+        {"invalid mes entry",
+         [](const QString& g) { FormatChecks::writeFile(g + "/data/mes/bad.mes", "{1}{ok}\r\n{2}{broken\r\n{3}{x}\r\n"); }},
+        {"response to nowhere",
+         [](const QString& g) {
+             FormatChecks::writeFile(g + "/data/dlg/bad.dlg", "{1}{Hi}{}{}{}{}{}\r\n\t{2}{Yes}{}{1}{}{99}{}\r\n");
+         }},
+        {"duplicate index",
+         [](const QString& g) {
+             FormatChecks::writeFile(g + "/data/dlg/bad.dlg",
+                                     "{1}{Hi}{}{}{}{}{}\r\n\t{2}{Yes}{}{1}{}{1}{}\r\n\t{2}{No}{}{1}{}{1}{}\r\n");
+         }},
+    };
+    return all;
+}
+
+} // namespace
+
+class TestCli : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir scratch;
+    QString game; // a pristine copy of the sample game
+
+    QString freshCopy(const QString& name)
+    {
+        const QString copy = scratch.filePath(name);
+        copyTree(SAMPLE_GAME, copy);
+        return copy;
+    }
+
+    QStringList sampleFiles(const QStringList& suffixes) const
+    {
+        QStringList files;
+        QDirIterator it(game + "/data", suffixes, QDir::Files, QDirIterator::Subdirectories);
+        while (it.hasNext())
+            files << it.next();
+        return files;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(scratch.isValid());
+        game = freshCopy(QStringLiteral("game"));
+    }
+
+    void usage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("output");
+        QTest::newRow("version") << QStringList{"--version"} << 0 << QStringLiteral("loreka 0.");
+        QTest::newRow("help") << QStringList{"--help"} << 0 << QStringLiteral("Exit status");
+        QTest::newRow("no command") << QStringList() << 2 << QString();
+        QTest::newRow("unknown command") << QStringList{"frob"} << 2 << QString();
+        QTest::newRow("dump without file") << QStringList{"dump"} << 2 << QString();
+        QTest::newRow("unknown option") << QStringList{"check", "--frob"} << 2 << QString();
+        QTest::newRow("no data folder") << QStringList{"check", "/nonexistent"} << 2 << QString();
+        QTest::newRow("dump missing file") << QStringList{"dump", "missing.mes"} << 2 << QString();
+        QTest::newRow("export bad format") << QStringList{"export", "x.art", "out", "--format", "gif"} << 2 << QString();
+    }
+
+    void usage()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QString, output);
+        const Run run = loreka(arguments);
+        QCOMPARE(run.code, code);
+        QVERIFY2(run.out.contains(output), qPrintable(run.out));
+        if (code == 2)
+            QVERIFY(!(run.err + run.out).isEmpty()); // says why
+    }
+
+    void checkSampleIsClean()
+    {
+        // From the game folder without arguments, as well as with the folder named.
+        for (const Run& run : {loreka({"check"}, game), loreka({"check", game})}) {
+            QCOMPARE(run.code, 0);
+            QCOMPARE(run.lines().size(), 1);
+            QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems$").match(run.out.trimmed()).hasMatch(),
+                     qPrintable(run.out));
+        }
+    }
+
+    void checkFindsPlantedDefect_data()
+    {
+        QTest::addColumn<QString>("plant");
+        QTest::addColumn<QString>("diagnostic");
+        QTest::newRow("truncated art") << "truncated art"
+                                       << "data/art/sample_potion.art:offset 0x4a0: error: image 0 frame 0 needs \\d+ "
+                                          "bytes of pixel data, \\d+ are left";
+        QTest::newRow("art runs underfill")
+            << "art runs underfill"
+            << "data/art/sample_beetle.art:offset 0xc04: error: image 0 frame 0: its runs fill only 2304 pixels of a "
+               "50x48 frame";
+        QTest::newRow("wrong signature") << "wrong signature"
+                                         << "data/proto/wall_stone.pro:offset 0x0: error: wrong signature 1, expected 119";
+        QTest::newRow("damaged proto count")
+            << "damaged proto count"
+            << "data/proto/container_chest.pro:offset 0x5a: error: optional record count 65 is more than the room for 64";
+        QTest::newRow("short palette") << "short palette"
+                                       << "data/art/sample_frost.aap:offset 0x3e8: error: a palette file has 1000 bytes, "
+                                          "not 1024";
+        QTest::newRow("unknown condition")
+            << "unknown condition"
+            << "data/scr/00001gate_guard.scr:offset 0x40: error: line 0: condition code 99 is not in the catalogue";
+        QTest::newRow("truncated script") << "truncated script"
+                                          << "data/scr/00002night_watch.scr:offset 0x[0-9a-f]+: error: the file ends "
+                                             "inside line \\d+ of the \\d+ its header counts";
+        QTest::newRow("invalid mes entry") << "invalid mes entry"
+                                           << "data/mes/bad.mes:2: error: '\\{' at index 3 has no matching '\\}'";
+        QTest::newRow("response to nowhere") << "response to nowhere"
+                                             << "data/dlg/bad.dlg:2: error: PC line 2: response line 99 does not exist";
+        QTest::newRow("duplicate index") << "duplicate index"
+                                         << "data/dlg/bad.dlg:3: error: line index 2 is used again \\(first on line 2\\)";
+    }
+
+    void checkFindsPlantedDefect()
+    {
+        QFETCH(QString, plant);
+        QFETCH(QString, diagnostic);
+        const QString copy = freshCopy(QString::fromLatin1(QTest::currentDataTag()).replace(' ', '_'));
+        plants().value(plant)(copy);
+        const Run run = loreka({"check"}, copy);
+        QCOMPARE(run.code, 1);
+        const QStringList lines = run.lines();
+        QCOMPARE(lines.size(), 2);
+        QVERIFY2(QRegularExpression('^' + diagnostic + '$').match(lines.first()).hasMatch(), qPrintable(run.out));
+        QVERIFY2(QRegularExpression("^\\d+ files checked, 1 problem$").match(lines.last()).hasMatch(),
+                 qPrintable(lines.last()));
+    }
+
+    void checkLeavesOutIgnoredProblems()
+    {
+        const QString copy = freshCopy(QStringLiteral("ignore"));
+        plants().value(QStringLiteral("invalid mes entry"))(copy);
+        plants().value(QStringLiteral("wrong signature"))(copy);
+        QVERIFY(FormatChecks::writeFile(copy + "/.lorekaignore",
+                                        "# kept on purpose\ndata/mes/bad.mes:2\n\ndata/proto/wall_stone.pro\n"));
+        const Run run = loreka({"check", copy});
+        QCOMPARE(run.code, 0);
+        QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems \\(2 ignored\\)$").match(run.out.trimmed()).hasMatch(),
+                 qPrintable(run.out));
+    }
+
+    void dumpJsonParses_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const QString& path : sampleFiles({"*.mes", "*.dlg", "*.scr", "*.art", "*.pro", "*.aap"}))
+            QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
+    }
+
+    void dumpJsonParses()
+    {
+        QFETCH(QString, file);
+        const Run run = loreka({"dump", "--json", file});
+        QCOMPARE(run.code, 0);
+        QJsonParseError error;
+        const QJsonDocument json = QJsonDocument::fromJson(run.out.toUtf8(), &error);
+        QVERIFY2(error.error == QJsonParseError::NoError, qPrintable(error.errorString()));
+        QCOMPARE(json.object().value("file").toString(), file);
+    }
+
+    void dumpScriptReadsAsSentences()
+    {
+        const Run run = loreka({"dump", game + "/data/scr/00001gate_guard.scr"});
+        QCOMPARE(run.code, 0);
+        QVERIFY2(run.out.contains("- 0: IF local flag (Number 0) is set THEN return and RUN default ELSE set local flag "
+                                  "(Number 0) to true"),
+                 qPrintable(run.out));
+        const QJsonObject json = QJsonDocument::fromJson(loreka({"dump", "--json", game + "/data/scr/00001gate_guard.scr"})
+                                                             .out.toUtf8()).object();
+        const QJsonObject condition = json["lines"][0]["statements"][0].toObject();
+        QCOMPARE(condition["keyword"].toString(), QStringLiteral("IF"));
+        QCOMPARE(condition["operands"][0]["type"].toString(), QStringLiteral("Number"));
+    }
+
+    void roundtripSampleBinariesAreIdentical()
+    {
+        const QStringList files = sampleFiles({"*.scr", "*.art", "*.pro"});
+        QVERIFY(files.size() >= 10);
+        const Run run = loreka(QStringList{"roundtrip"} + files);
+        QCOMPARE(run.code, 0);
+        QCOMPARE(run.lines().size(), files.size());
+        for (const QString& line : run.lines())
+            QVERIFY2(line.endsWith(QLatin1String(": identical")), qPrintable(line));
+    }
+
+    void roundtripReportsFirstDifference()
+    {
+        // Message files are written with Windows line ends, so a Unix one changes at its first line end.
+        const QString unix = scratch.filePath("unix.mes");
+        QVERIFY(FormatChecks::writeFile(unix, "{1}{a}\n{2}{b}\n"));
+        const Run run = loreka({"roundtrip", game + "/data/proto/wall_stone.pro", unix});
+        QCOMPARE(run.code, 1);
+        QCOMPARE(run.lines(), QStringList({game + "/data/proto/wall_stone.pro: identical",
+                                           unix + ": differs at offset 0x6 (14 bytes read, 16 written)"}));
+        QCOMPARE(loreka({"roundtrip", scratch.filePath("missing.pro")}).code, 2);
+    }
+
+    void exportWritesEveryFrame_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QSize>("size");
+        QStringList frames;
+        for (int i = 0; i < 8; ++i) {
+            for (int f = 0; f < 4; ++f)
+                frames << QStringLiteral("sample_beetle_i%1_f%2.png").arg(i).arg(f);
+        }
+        QTest::newRow("frames") << QStringList() << frames << QSize(48, 48);
+        QTest::newRow("bmp frames of palette 1") << QStringList{"--palette", "1", "--format", "bmp"}
+                                                 << frames.replaceInStrings(".png", ".bmp") << QSize(48, 48);
+        QTest::newRow("sheets") << QStringList{"--sheet"}
+                                << QStringList{"sample_beetle_p0.png", "sample_beetle_p1.png"} << QSize(4 * 48, 8 * 48);
+        QTest::newRow("sheet of palette 1") << QStringList{"--sheet", "--palette", "1"}
+                                            << QStringList{"sample_beetle_p1.png"} << QSize(4 * 48, 8 * 48);
+    }
+
+    void exportWritesEveryFrame()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QStringList, files);
+        QFETCH(QSize, size);
+        const QString out = scratch.filePath(QStringLiteral("export_") + QTest::currentDataTag());
+        const Run run = loreka(QStringList{"export", game + "/data/art/sample_beetle.art", out} + options);
+        QCOMPARE(run.code, 0);
+        QStringList written = QDir(out).entryList(QDir::Files);
+        written.sort();
+        files.sort();
+        QCOMPARE(written, files);
+        for (const QString& file : files)
+            QCOMPARE(QImage(QDir(out).filePath(file)).size(), size);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCli)
+#include "tst_cli.moc"
