@@ -123,7 +123,13 @@ QString DialogueFile::DialogueEntry::getLine() const
 {
     if (!valid)
         return skeleton + comment;
-    QString line = skeleton;
+    QString line;
+    // Room for every piece up front, so the inserts below never move the line to a new buffer.
+    qsizetype size = skeleton.size() + comment.size() + 16;
+    for (const QString& item : items)
+        size += item.size();
+    line.reserve(size);
+    line.append(skeleton);
     const int open = line.indexOf(OPEN_CHAR);
     if (open < 0)
         return line + comment;
@@ -138,7 +144,7 @@ QString DialogueFile::DialogueEntry::getLine() const
         line.insert(fieldOpen + 1, items[i]);
         cursor = fieldOpen + 1 + static_cast<int>(items[i].size());
     }
-    return line + comment;
+    return line += comment;
 }
 
 DialogueFile::DialogueFile(const QString& fileName)

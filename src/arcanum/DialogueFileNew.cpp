@@ -1,6 +1,7 @@
 #include "DialogueFileNew.h"
 
 #include "SafeSave.h"
+#include "TextLines.h"
 
 #include <QFile>
 #include <QTextCodec>
@@ -51,13 +52,19 @@ bool DialogueFileNew::load()
     }
     // Decoded here because Qt 6 streams know no Windows code pages; reading without text mode also
     // keeps a lone "\r" inside a text, while the stream still ends lines at "\n" and "\r\n".
-    QString text = codec()->toUnicode(file.readAll());
-    QTextStream stream(&text, QIODevice::ReadOnly);
-    read(stream);
+    const QString text = codec()->toUnicode(file.readAll());
+    TextLines lines(text);
+    readLines(lines);
     return true;
 }
 
 void DialogueFileNew::read(QTextStream& stream)
+{
+    readLines(stream);
+}
+
+template <typename Lines>
+void DialogueFileNew::readLines(Lines& stream)
 {
     mNpcLines.clear();
     mPcLines.clear();
@@ -67,7 +74,8 @@ void DialogueFileNew::read(QTextStream& stream)
     }
 }
 
-bool DialogueFileNew::readEntry(QTextStream& stream, bool* atEnd)
+template <typename Lines>
+bool DialogueFileNew::readEntry(Lines& stream, bool* atEnd)
 {
     Entry entry = nextEntry(stream, atEnd);
     if (entry.items.size() < ENTRY_ITEM_COUNT) {
@@ -94,7 +102,8 @@ bool DialogueFileNew::readEntry(QTextStream& stream, bool* atEnd)
 
 // Keeps the entry that stopped the reading and everything after it, without the blank lines at its
 // end (save adds its own line ends). Returns whether anything but blanks was kept.
-bool DialogueFileNew::keepUnread(const QString& entryText, QTextStream& stream)
+template <typename Lines>
+bool DialogueFileNew::keepUnread(const QString& entryText, Lines& stream)
 {
     mUnreadText = entryText;
     while (!stream.atEnd())
@@ -115,7 +124,8 @@ QPair<QStringList, QString> DialogueFileNew::getNextEntry(QTextStream& stream, b
 // An item ends at the first "}" after its "{"; when a brace is missing the next physical line is joined
 // with "\n", so items may span lines. Each search resumes where the last one ended, so a long run of
 // lines without braces is read in linear time.
-DialogueFileNew::Entry DialogueFileNew::nextEntry(QTextStream& stream, bool* atEnd)
+template <typename Lines>
+DialogueFileNew::Entry DialogueFileNew::nextEntry(Lines& stream, bool* atEnd)
 {
     Entry entry;
     if (stream.atEnd()) {
