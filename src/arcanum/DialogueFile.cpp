@@ -28,6 +28,8 @@ void DialogueFile::DialogueEntry::readFields(const QString& chunk, int indexClos
         const int open = skeleton.indexOf(OPEN_CHAR, cursor);
         if (open < 0)
             break;
+        if (items.isEmpty())
+            items.reserve(ITEM_COUNT);
         const int close = skeleton.indexOf(CLOSE_CHAR, open);
         if (close < 0) {
             setUnmatchedOpenError(chunk, open);

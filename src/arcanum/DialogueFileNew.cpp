@@ -1,6 +1,7 @@
 #include "DialogueFileNew.h"
 
 #include "SafeSave.h"
+#include "TextCodec.h"
 #include "TextLines.h"
 
 #include <QFile>
@@ -52,7 +53,7 @@ bool DialogueFileNew::load()
     }
     // Decoded here because Qt 6 streams know no Windows code pages; reading without text mode also
     // keeps a lone "\r" inside a text, while the stream still ends lines at "\n" and "\r\n".
-    const QString text = codec()->toUnicode(file.readAll());
+    const QString text = TextCodec::decode(codec(), file.readAll());
     TextLines lines(text);
     readLines(lines);
     return true;
@@ -201,7 +202,7 @@ bool DialogueFileNew::save(QFile* file) const
 
 QByteArray DialogueFileNew::toBytes() const
 {
-    return codec()->fromUnicode(toText());
+    return TextCodec::encode(codec(), toText());
 }
 
 // NPC lines start a line of the file, the PC answers that follow them in index order are indented

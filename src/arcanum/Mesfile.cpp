@@ -2,6 +2,7 @@
 
 #include "DialogueFile.h"
 #include "SafeSave.h"
+#include "TextCodec.h"
 #include "constants.h"
 
 #include <QTextCodec>
@@ -345,7 +346,7 @@ bool Mesfile::load(QTextCodec* codec)
     if (!codec)
         codec = QTextCodec::codecForMib(UTF8_MIB);
     utf8Bom = codec->mibEnum() == UTF8_MIB && bytes.startsWith(UTF8_BOM);
-    readEntries(codec->toUnicode(bytes));
+    readEntries(TextCodec::decode(codec, bytes));
     loaded = true;
     return true;
 }
@@ -388,7 +389,7 @@ bool Mesfile::save(const QString& fileName, QTextCodec* codec)
 {
     if (!codec)
         codec = QTextCodec::codecForMib(UTF8_MIB);
-    QByteArray bytes = codec->fromUnicode(buildText());
+    QByteArray bytes = TextCodec::encode(codec, buildText());
     if (utf8Bom && codec->mibEnum() == UTF8_MIB)
         bytes.prepend(UTF8_BOM);
     QString error;
