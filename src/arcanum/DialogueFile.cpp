@@ -10,6 +10,18 @@ namespace {
 
 enum DialogueColumn { TEXT = 0, GENDER = 1, INTELLIGENCE = 2, CONDITION = 3, RESPONSE = 4, RESULT = 5 };
 
+// QString::indexOf for a position that is never negative, as a plain loop: the fields are short, and
+// a large file has millions of them.
+int findFrom(const QString& text, QChar c, int from)
+{
+    const QChar* data = text.constData();
+    for (qsizetype i = from; i < text.size(); ++i) {
+        if (data[i] == c)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
 } // namespace
 
 DialogueFile::DialogueEntry::DialogueEntry(QString& chunk)
@@ -25,12 +37,12 @@ void DialogueFile::DialogueEntry::readFields(const QString& chunk, int indexClos
     int lastClose = -1;
     int cursor = indexClose;
     for (;;) {
-        const int open = skeleton.indexOf(OPEN_CHAR, cursor);
+        const int open = findFrom(skeleton, OPEN_CHAR, cursor);
         if (open < 0)
             break;
         if (items.isEmpty())
             items.reserve(ITEM_COUNT);
-        const int close = skeleton.indexOf(CLOSE_CHAR, open);
+        const int close = findFrom(skeleton, CLOSE_CHAR, open);
         if (close < 0) {
             setUnmatchedOpenError(chunk, open);
             return;
