@@ -56,7 +56,7 @@ void DialogueFile::DialogueEntry::readFields(const QString& chunk, int indexClos
         // The skeleton keeps what follows the last field, and getLine() appends the comment on top,
         // so trailing text is written twice. Dropping the character whose code is one past the last
         // brace's position belongs to the same old rule; both decide how lines are written back.
-        comment = withoutFinalNewline(skeleton.mid(lastClose + 1));
+        comment = withoutFinalNewline(QStringView(skeleton).mid(lastClose + 1));
         const int code = lastClose + 1;
         if (code <= 0xFFFF)
             skeleton.remove(QChar(static_cast<char16_t>(code)));

@@ -123,11 +123,11 @@ void Mesfile::Entry::setUnmatchedOpenError(const QString& chunk, int open)
     setErrorState(tr("'{' at index %1 has no matching '}'").arg(open + cut), chunk);
 }
 
-QString Mesfile::Entry::withoutFinalNewline(QString text)
+QString Mesfile::Entry::withoutFinalNewline(QStringView text)
 {
     if (text.endsWith(QLatin1Char('\n')))
         text.chop(1);
-    return text;
+    return text.toString();
 }
 
 // ---- MesEntry ----
@@ -140,7 +140,7 @@ Mesfile::MesEntry::MesEntry(const QString& chunk)
     const int textOpen = skeleton.indexOf(OPEN_CHAR, indexClose);
     if (textOpen < 0) {
         // "{5}" alone is an entry with an empty text.
-        comment = withoutFinalNewline(skeleton.mid(indexClose + 1));
+        comment = withoutFinalNewline(QStringView(skeleton).mid(indexClose + 1));
         skeleton.truncate(indexClose + 1);
         setValidState();
         return;
@@ -151,7 +151,7 @@ Mesfile::MesEntry::MesEntry(const QString& chunk)
         return;
     }
     text = skeleton.mid(textOpen + 1, textClose - textOpen - 1);
-    comment = withoutFinalNewline(skeleton.mid(textClose + 1));
+    comment = withoutFinalNewline(QStringView(skeleton).mid(textClose + 1));
     QString kept;
     kept.reserve(textOpen + 2);
     kept.append(QStringView(skeleton).left(textOpen + 1)).append(CLOSE_CHAR);
