@@ -133,6 +133,7 @@ DialogueFileNew::Entry DialogueFileNew::nextEntry(Lines& stream, bool* atEnd)
         *atEnd = true;
         return entry;
     }
+    entry.items.reserve(ENTRY_ITEM_COUNT);
     QString& text = entry.text;
     text = stream.readLine();
     int open = -1; // the "{" of the item being read

@@ -23,7 +23,11 @@ DialogueFileNew::OpcodeField::OpcodeField(const QString& text, const dlg::TestOr
         mErrors << QStringLiteral("ALL_RESULTS == NULL");
         return;
     }
-    const QList<QStringView> pieces = QStringView(text).trimmed().split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const QStringView trimmed = QStringView(text).trimmed();
+    // Most fields are empty: they have no pieces, and need no list to say so.
+    if (trimmed.isEmpty())
+        return;
+    const QList<QStringView> pieces = trimmed.split(QLatin1Char(','), Qt::SkipEmptyParts);
     for (QStringView piece : pieces)
         parsePiece(piece.trimmed(), *allowed);
 }
