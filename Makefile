@@ -10,7 +10,7 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 SAMPLE_GAME := examples/sample-game
 
-.PHONY: run test deps release screenshots samples clean
+.PHONY: run test deps release screenshots samples clean bench
 
 run: release
 	cd $(SAMPLE_GAME) && ../../$(RELEASE_DIR)/src/qtLoreka
@@ -53,3 +53,18 @@ deps:
 
 clean:
 	rm -rf build
+
+# Speed of the format models and the message page on large generated inputs (Release, no sanitizers).
+# Every figure is printed with its ratio to memcpy over as many bytes and its target; timings are the
+# medians of BENCH_REPETITIONS runs.
+BENCH_DIR := build/bench
+BENCH_REPETITIONS ?= 3
+
+bench: deps
+	@dpkg -s libbenchmark-dev >/dev/null 2>&1 || { echo "Installing: libbenchmark-dev"; \
+	    $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get update -q && \
+	    $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends libbenchmark-dev; }
+	cmake -S . -B $(BENCH_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLOREKA_BENCH=ON -DLOREKA_BUILD_TESTS=OFF
+	cmake --build $(BENCH_DIR) --target loreka-bench -j $(JOBS)
+	cd $(BENCH_DIR) && QT_QPA_PLATFORM=offscreen ./bench/loreka-bench \
+	    --benchmark_repetitions=$(BENCH_REPETITIONS) --benchmark_report_aggregates_only=true

@@ -10,6 +10,18 @@ namespace {
 
 enum DialogueColumn { TEXT = 0, GENDER = 1, INTELLIGENCE = 2, CONDITION = 3, RESPONSE = 4, RESULT = 5 };
 
+// QString::indexOf for a position that is never negative, as a plain loop: the fields are short, and
+// a large file has millions of them.
+int findFrom(const QString& text, QChar c, int from)
+{
+    const QChar* data = text.constData();
+    for (qsizetype i = from; i < text.size(); ++i) {
+        if (data[i] == c)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
 } // namespace
 
 DialogueFile::DialogueEntry::DialogueEntry(QString& chunk)
@@ -25,10 +37,12 @@ void DialogueFile::DialogueEntry::readFields(const QString& chunk, int indexClos
     int lastClose = -1;
     int cursor = indexClose;
     for (;;) {
-        const int open = skeleton.indexOf(OPEN_CHAR, cursor);
+        const int open = findFrom(skeleton, OPEN_CHAR, cursor);
         if (open < 0)
             break;
-        const int close = skeleton.indexOf(CLOSE_CHAR, open);
+        if (items.isEmpty())
+            items.reserve(ITEM_COUNT);
+        const int close = findFrom(skeleton, CLOSE_CHAR, open);
         if (close < 0) {
             setUnmatchedOpenError(chunk, open);
             return;
@@ -42,7 +56,7 @@ void DialogueFile::DialogueEntry::readFields(const QString& chunk, int indexClos
         // The skeleton keeps what follows the last field, and getLine() appends the comment on top,
         // so trailing text is written twice. Dropping the character whose code is one past the last
         // brace's position belongs to the same old rule; both decide how lines are written back.
-        comment = withoutFinalNewline(skeleton.mid(lastClose + 1));
+        comment = withoutFinalNewline(QStringView(skeleton).mid(lastClose + 1));
         const int code = lastClose + 1;
         if (code <= 0xFFFF)
             skeleton.remove(QChar(static_cast<char16_t>(code)));
@@ -123,7 +137,13 @@ QString DialogueFile::DialogueEntry::getLine() const
 {
     if (!valid)
         return skeleton + comment;
-    QString line = skeleton;
+    QString line;
+    // Room for every piece up front, so the inserts below never move the line to a new buffer.
+    qsizetype size = skeleton.size() + comment.size() + 16;
+    for (const QString& item : items)
+        size += item.size();
+    line.reserve(size);
+    line.append(skeleton);
     const int open = line.indexOf(OPEN_CHAR);
     if (open < 0)
         return line + comment;
@@ -138,7 +158,7 @@ QString DialogueFile::DialogueEntry::getLine() const
         line.insert(fieldOpen + 1, items[i]);
         cursor = fieldOpen + 1 + static_cast<int>(items[i].size());
     }
-    return line + comment;
+    return line += comment;
 }
 
 DialogueFile::DialogueFile(const QString& fileName)

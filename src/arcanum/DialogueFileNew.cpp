@@ -1,6 +1,8 @@
 #include "DialogueFileNew.h"
 
 #include "SafeSave.h"
+#include "TextCodec.h"
+#include "TextLines.h"
 
 #include <QFile>
 #include <QTextCodec>
@@ -51,13 +53,19 @@ bool DialogueFileNew::load()
     }
     // Decoded here because Qt 6 streams know no Windows code pages; reading without text mode also
     // keeps a lone "\r" inside a text, while the stream still ends lines at "\n" and "\r\n".
-    QString text = codec()->toUnicode(file.readAll());
-    QTextStream stream(&text, QIODevice::ReadOnly);
-    read(stream);
+    const QString text = TextCodec::decode(codec(), file.readAll());
+    TextLines lines(text);
+    readLines(lines);
     return true;
 }
 
 void DialogueFileNew::read(QTextStream& stream)
+{
+    readLines(stream);
+}
+
+template <typename Lines>
+void DialogueFileNew::readLines(Lines& stream)
 {
     mNpcLines.clear();
     mPcLines.clear();
@@ -70,7 +78,8 @@ void DialogueFileNew::read(QTextStream& stream)
 }
 
 // line: the file's line the entry starts on; on return, the line after it.
-bool DialogueFileNew::readEntry(QTextStream& stream, bool* atEnd, int& line)
+template <typename Lines>
+bool DialogueFileNew::readEntry(Lines& stream, bool* atEnd, int& line)
 {
     Entry entry = nextEntry(stream, atEnd);
     const int first = line;
@@ -105,7 +114,8 @@ bool DialogueFileNew::readEntry(QTextStream& stream, bool* atEnd, int& line)
 
 // Keeps the entry that stopped the reading and everything after it, without the blank lines at its
 // end (save adds its own line ends). Returns whether anything but blanks was kept.
-bool DialogueFileNew::keepUnread(const QString& entryText, QTextStream& stream)
+template <typename Lines>
+bool DialogueFileNew::keepUnread(const QString& entryText, Lines& stream)
 {
     mUnreadText = entryText;
     while (!stream.atEnd())
@@ -128,13 +138,15 @@ QPair<QStringList, QString> DialogueFileNew::getNextEntry(QTextStream& stream, b
 // An item ends at the first "}" after its "{"; when a brace is missing the next physical line is joined
 // with "\n", so items may span lines. Each search resumes where the last one ended, so a long run of
 // lines without braces is read in linear time.
-DialogueFileNew::Entry DialogueFileNew::nextEntry(QTextStream& stream, bool* atEnd)
+template <typename Lines>
+DialogueFileNew::Entry DialogueFileNew::nextEntry(Lines& stream, bool* atEnd)
 {
     Entry entry;
     if (stream.atEnd()) {
         *atEnd = true;
         return entry;
     }
+    entry.items.reserve(ENTRY_ITEM_COUNT);
     QString& text = entry.text;
     text = stream.readLine();
     int open = -1; // the "{" of the item being read
@@ -204,7 +216,7 @@ bool DialogueFileNew::save(QFile* file) const
 
 QByteArray DialogueFileNew::toBytes() const
 {
-    return codec()->fromUnicode(toText());
+    return TextCodec::encode(codec(), toText());
 }
 
 // NPC lines start a line of the file, the PC answers that follow them in index order are indented

@@ -59,8 +59,9 @@ public:
         OpcodeField(const QString& text, const dlg::TestOrResultTypes* allowed);
 
     private:
-        void parsePiece(const QString& piece, const dlg::TestOrResultTypes& allowed);
-        bool parseArguments(const QString& arguments, const QString& code, dlg::TestOrResultData& record);
+        // Views into the text as read: a large file has hundreds of thousands of pieces.
+        void parsePiece(QStringView piece, const dlg::TestOrResultTypes& allowed);
+        bool parseArguments(QStringView arguments, QStringView code, dlg::TestOrResultData& record);
 
         QVector<dlg::TestOrResultData> mRecords;
         QStringList mErrors;
@@ -283,9 +284,15 @@ private:
         QString text;
         int start = -1;
     };
-    static Entry nextEntry(QTextStream& stream, bool* atEnd);
-    bool readEntry(QTextStream& stream, bool* atEnd, int& line);
-    bool keepUnread(const QString& entryText, QTextStream& stream);
+    // Lines: a QTextStream, or TextLines for a whole file.
+    template <typename Lines>
+    void readLines(Lines& stream);
+    template <typename Lines>
+    static Entry nextEntry(Lines& stream, bool* atEnd);
+    template <typename Lines>
+    bool readEntry(Lines& stream, bool* atEnd, int& line);
+    template <typename Lines>
+    bool keepUnread(const QString& entryText, Lines& stream);
     static QString withWindowsLineEnds(QString text);
 
     QString mFileName;

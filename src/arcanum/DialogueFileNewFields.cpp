@@ -5,7 +5,7 @@ namespace arcanum {
 
 namespace {
 
-bool parseNumber(const QString& text, qint32& value)
+bool parseNumber(QStringView text, qint32& value)
 {
     bool ok = false;
     const int number = text.trimmed().toInt(&ok, 10);
@@ -23,14 +23,18 @@ DialogueFileNew::OpcodeField::OpcodeField(const QString& text, const dlg::TestOr
         mErrors << QStringLiteral("ALL_RESULTS == NULL");
         return;
     }
-    const QStringList pieces = text.trimmed().split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString& piece : pieces)
+    const QStringView trimmed = QStringView(text).trimmed();
+    // Most fields are empty: they have no pieces, and need no list to say so.
+    if (trimmed.isEmpty())
+        return;
+    const QList<QStringView> pieces = trimmed.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (QStringView piece : pieces)
         parsePiece(piece.trimmed(), *allowed);
 }
 
-void DialogueFileNew::OpcodeField::parsePiece(const QString& piece, const dlg::TestOrResultTypes& allowed)
+void DialogueFileNew::OpcodeField::parsePiece(QStringView piece, const dlg::TestOrResultTypes& allowed)
 {
-    const QString code = piece.left(2);
+    const QStringView code = piece.left(2);
     const dlg::TestOrResultType* type = dlg::findType(allowed, code);
     if (!type) {
         mErrors << QStringLiteral("opcode '%1' is unknown").arg(code);
@@ -43,7 +47,7 @@ void DialogueFileNew::OpcodeField::parsePiece(const QString& piece, const dlg::T
 
 // A piece whose arguments cannot be read is reported and left out of the records; an unedited field
 // still writes it back as it was read.
-bool DialogueFileNew::OpcodeField::parseArguments(const QString& arguments, const QString& code,
+bool DialogueFileNew::OpcodeField::parseArguments(QStringView arguments, QStringView code,
                                                   dlg::TestOrResultData& record)
 {
     const auto failed = [this, &code](int argument) {
@@ -56,7 +60,7 @@ bool DialogueFileNew::OpcodeField::parseArguments(const QString& arguments, cons
     case 1:
         return parseNumber(arguments, record.value1) || failed(1);
     case 2: {
-        const QStringList values = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const QList<QStringView> values = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
         const bool first = parseNumber(values.value(0), record.value1) || failed(1);
         const bool second = parseNumber(values.value(1), record.value2) || failed(2);
         return first && second;

@@ -57,12 +57,20 @@ void DialogueFileNew::Line::setError(const QString& message, const QStringList& 
     qWarning("Error: %s %s", qUtf8Printable(message), qUtf8Printable(mErrors->rawText));
 }
 
+// Sized first and filled in place: a large dialogue is written line by line, item by item.
 QString DialogueFileNew::Line::joinItems(const QStringList& itemsAfterText) const
 {
-    QString text = braced(QString::number(mIndex)) + braced(mText);
+    const QString number = QString::number(mIndex);
+    qsizetype size = number.size() + mText.size() + 4 + mTrailing.size();
     for (const QString& item : itemsAfterText)
-        text += braced(item);
-    return text + mTrailing;
+        size += item.size() + 2;
+    QString text;
+    text.reserve(size);
+    for (const QString* item : {&number, &mText})
+        text.append(OPEN_CHAR).append(*item).append(CLOSE_CHAR);
+    for (const QString& item : itemsAfterText)
+        text.append(OPEN_CHAR).append(item).append(CLOSE_CHAR);
+    return text.append(mTrailing);
 }
 
 void DialogueFileNew::Line::recordFieldErrors(const OpcodeField& field, const QStringList& items,

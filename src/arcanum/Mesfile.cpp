@@ -2,6 +2,7 @@
 
 #include "DialogueFile.h"
 #include "SafeSave.h"
+#include "TextCodec.h"
 #include "constants.h"
 
 #include <QTextCodec>
@@ -30,6 +31,46 @@ bool hasKnownSuffix(const QString& name)
 {
     return name.endsWith(QLatin1String(".mes"), Qt::CaseInsensitive)
         || name.endsWith(QLatin1String(".dlg"), Qt::CaseInsensitive);
+}
+
+bool startsEntryAt(QStringView line)
+{
+    qsizetype first = 0;
+    while (first < line.size() && (line[first] == QLatin1Char(' ') || line[first] == QLatin1Char('\t')))
+        ++first;
+    return first < line.size() && line[first] == OPEN_CHAR;
+}
+
+// The end of the line that starts at from: after its "\n", or the end of the text.
+qsizetype nextLineStart(const QString& text, qsizetype from)
+{
+    const qsizetype newline = text.indexOf(QLatin1Char('\n'), from);
+    return newline < 0 ? text.size() : newline + 1;
+}
+
+// getDataUpToNextEntry on a decoded text, from offset, which moves to the start of the next chunk.
+// The chunk's lines are cut out of the text in one piece: their "\n" ends are what the stream version
+// puts back, and every "\r" goes in both.
+QString chunkAt(const QString& text, qsizetype& offset)
+{
+    qsizetype start = offset;
+    qsizetype end = nextLineStart(text, start);
+    if (startsEntryAt(QStringView(text).mid(start, end - start))) {
+        while (text[start] == QLatin1Char(' ') || text[start] == QLatin1Char('\t'))
+            ++start;
+    }
+    while (end < text.size()) {
+        const qsizetype next = nextLineStart(text, end);
+        if (startsEntryAt(QStringView(text).mid(end, next - end)))
+            break;
+        end = next;
+    }
+    offset = end;
+    QString chunk = text.mid(start, end - start);
+    if (!chunk.endsWith(QLatin1Char('\n')))
+        chunk += QLatin1Char('\n');
+    chunk.remove(QLatin1Char('\r'));
+    return chunk;
 }
 
 } // namespace
@@ -64,7 +105,7 @@ int Mesfile::Entry::parseIndex(const QString& chunk)
         return -1;
     }
     bool ok = false;
-    const int index = chunk.mid(open + 1, close - open - 1).trimmed().toInt(&ok, 10);
+    const int index = QStringView(chunk).mid(open + 1, close - open - 1).trimmed().toInt(&ok, 10);
     if (!ok) {
         setErrorState(tr("Index could not be parsed"), chunk);
         return -1;
@@ -82,11 +123,11 @@ void Mesfile::Entry::setUnmatchedOpenError(const QString& chunk, int open)
     setErrorState(tr("'{' at index %1 has no matching '}'").arg(open + cut), chunk);
 }
 
-QString Mesfile::Entry::withoutFinalNewline(QString text)
+QString Mesfile::Entry::withoutFinalNewline(QStringView text)
 {
     if (text.endsWith(QLatin1Char('\n')))
         text.chop(1);
-    return text;
+    return text.toString();
 }
 
 // ---- MesEntry ----
@@ -99,7 +140,7 @@ Mesfile::MesEntry::MesEntry(const QString& chunk)
     const int textOpen = skeleton.indexOf(OPEN_CHAR, indexClose);
     if (textOpen < 0) {
         // "{5}" alone is an entry with an empty text.
-        comment = withoutFinalNewline(skeleton.mid(indexClose + 1));
+        comment = withoutFinalNewline(QStringView(skeleton).mid(indexClose + 1));
         skeleton.truncate(indexClose + 1);
         setValidState();
         return;
@@ -110,8 +151,11 @@ Mesfile::MesEntry::MesEntry(const QString& chunk)
         return;
     }
     text = skeleton.mid(textOpen + 1, textClose - textOpen - 1);
-    comment = withoutFinalNewline(skeleton.mid(textClose + 1));
-    skeleton = skeleton.left(textOpen + 1) + CLOSE_CHAR;
+    comment = withoutFinalNewline(QStringView(skeleton).mid(textClose + 1));
+    QString kept;
+    kept.reserve(textOpen + 2);
+    kept.append(QStringView(skeleton).left(textOpen + 1)).append(CLOSE_CHAR);
+    skeleton = kept;
     setValidState();
 }
 
@@ -142,7 +186,10 @@ QString Mesfile::MesEntry::getLine() const
 {
     if (!valid)
         return skeleton + comment;
-    QString line = skeleton;
+    QString line;
+    // Room for every piece up front, so the inserts below never move the line to a new buffer.
+    line.reserve(skeleton.size() + text.size() + comment.size() + 16);
+    line.append(skeleton);
     const int open = line.indexOf(OPEN_CHAR);
     if (open >= 0) {
         const QString number = QString::number(mesIndex);
@@ -299,17 +346,17 @@ bool Mesfile::load(QTextCodec* codec)
     if (!codec)
         codec = QTextCodec::codecForMib(UTF8_MIB);
     utf8Bom = codec->mibEnum() == UTF8_MIB && bytes.startsWith(UTF8_BOM);
-    readEntries(codec->toUnicode(bytes));
+    readEntries(TextCodec::decode(codec, bytes));
     loaded = true;
     return true;
 }
 
 void Mesfile::readEntries(const QString& decoded)
 {
-    QString text = decoded;
-    QTextStream stream(&text, QIODevice::ReadOnly);
-    bool atEnd = false;
-    QString first = getDataUpToNextEntry(stream, &atEnd);
+    // Chunks are cut straight out of the text: a QTextStream would scan every character and read the
+    // line that starts each entry twice.
+    qsizetype offset = 0;
+    QString first = offset < decoded.size() ? chunkAt(decoded, offset) : QString();
     int line = 1;
     // Counted before the entry is made: an entry may take its chunk apart.
     auto addEntry = [this, &line](QString& chunk) {
@@ -326,10 +373,9 @@ void Mesfile::readEntries(const QString& decoded)
         header = first;
         line += static_cast<int>(first.count(QLatin1Char('\n')));
     }
-    while (!atEnd) {
-        QString chunk = getDataUpToNextEntry(stream, &atEnd);
-        if (!chunk.isEmpty())
-            addEntry(chunk);
+    while (offset < decoded.size()) {
+        QString chunk = chunkAt(decoded, offset);
+        addEntry(chunk);
     }
 }
 
@@ -337,13 +383,13 @@ QString Mesfile::buildText()
 {
     // The header keeps its Windows line ends in memory too: a second save of the same object
     // doubles the "\r", which is how the editor has always behaved.
-    header.replace(QLatin1String("\n"), WIN_ENDLINE);
+    header.replace(QLatin1Char('\n'), WIN_ENDLINE);
     QString text = header;
     if (!header.isEmpty() && !header.endsWith(QLatin1Char('\n')))
         text += WIN_ENDLINE;
     for (const auto& entry : entries) {
         QString line = entry->getLine();
-        line.replace(QLatin1String("\n"), WIN_ENDLINE);
+        line.replace(QLatin1Char('\n'), WIN_ENDLINE);
         text += line;
     }
     return text;
@@ -353,7 +399,7 @@ bool Mesfile::save(const QString& fileName, QTextCodec* codec)
 {
     if (!codec)
         codec = QTextCodec::codecForMib(UTF8_MIB);
-    QByteArray bytes = codec->fromUnicode(buildText());
+    QByteArray bytes = TextCodec::encode(codec, buildText());
     if (utf8Bom && codec->mibEnum() == UTF8_MIB)
         bytes.prepend(UTF8_BOM);
     QString error;

@@ -56,7 +56,8 @@ public:
         int parseIndex(const QString& chunk);
         // Records a "{" at skeleton position open that no "}" closes; the message gives its place in chunk.
         void setUnmatchedOpenError(const QString& chunk, int open);
-        static QString withoutFinalNewline(QString text);
+        // Takes a view, so the usual comment, a lone line end, costs no string of its own.
+        static QString withoutFinalNewline(QStringView text);
 
         QString skeleton;
         QString validationError;

@@ -45,19 +45,21 @@ void writeHeader(QByteArray& out, const Script::Header& header)
 void readStatement(Reader& in, Script::Statement& statement)
 {
     in.readInt32(statement.code);
-    for (quint8& type : statement.types)
-        in.readByte(type);
+    // One block reads as the bytes one by one would: a short buffer fills the front and keeps the rest.
+    in.readBytes(reinterpret_cast<char*>(statement.types.data()), Script::Slots);
     for (qint32& value : statement.values)
         in.readInt32(value);
 }
 
+// Built on the stack and appended in one piece: a large script has hundreds of thousands of statements.
 void writeStatement(QByteArray& out, const Script::Statement& statement)
 {
-    appendInt32(out, statement.code);
-    for (quint8 type : statement.types)
-        out.append(static_cast<char>(type));
-    for (qint32 value : statement.values)
-        appendInt32(out, value);
+    char bytes[Script::StatementSize];
+    qToLittleEndian(statement.code, bytes);
+    std::copy_n(statement.types.begin(), Script::Slots, bytes + 4);
+    for (int slot = 0; slot < Script::Slots; ++slot)
+        qToLittleEndian(statement.values[std::size_t(slot)], bytes + 4 + Script::Slots + 4 * slot);
+    out.append(bytes, Script::StatementSize);
 }
 
 // The lines a load makes: what the header claims, as long as the file backs it up or only a
@@ -131,8 +133,9 @@ void Script::readLines(const QByteArray& bytes)
 QByteArray Script::toBytes() const
 {
     QByteArray out;
-    writeHeader(out, header);
     const size_t count = std::min<size_t>(std::max(header.lineCount, 0), lines.size());
+    out.reserve(HeaderSize + qsizetype(count) * LineSize);
+    writeHeader(out, header);
     for (size_t i = 0; i < count; ++i) {
         writeStatement(out, lines[i].condition);
         writeStatement(out, lines[i].thenAction);

@@ -165,6 +165,12 @@ void MesWidget::updateItems()
     ui->table->setRowCount(mesfile->getEntryCount());
     ui->table->setColumnCount(itemColumns() + 2);
     fillColumnTitles();
+    // The number column is sized to its contents only once it is filled (fitColumns): before that,
+    // every new cell would make the table measure the whole column again.
+    ui->table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
+    // What a new cell's font() gives (the application font), in bold.
+    boldFont = QFont();
+    boldFont.setBold(true);
     for (int row = 0; row < mesfile->getEntryCount(); ++row)
         fillRow(row, *mesfile->getEntryAt(row));
     fitColumns();
@@ -187,10 +193,9 @@ void MesWidget::fillRow(int row, const Mesfile::Entry& entry)
 {
     auto* index = new QTableWidgetItem(QString::number(entry.getMesIndex()));
     index->setFlags(Qt::NoItemFlags);
-    QFont bold = index->font();
-    bold.setBold(true);
-    index->setFont(bold);
-    index->setToolTip(entry.getInfoAbout(Mesfile::INDEX_COLUMN));
+    index->setFont(boldFont);
+    // The number's tool tip tells what the comment says.
+    index->setToolTip(entry.getInfoAbout(Mesfile::COMMENT_COLUMN));
     ui->table->setItem(row, 0, index);
     for (int i = 0; i < itemColumns(); ++i) {
         auto* cell = new QTableWidgetItem(entry.getItemAt(static_cast<unsigned>(i)));
@@ -198,8 +203,6 @@ void MesWidget::fillRow(int row, const Mesfile::Entry& entry)
         ui->table->setItem(row, i + 1, cell);
     }
     ui->table->setItem(row, itemColumns() + 1, new QTableWidgetItem(entry.getComment()));
-    // The number's tool tip tells what the comment says.
-    index->setToolTip(entry.getInfoAbout(Mesfile::COMMENT_COLUMN));
     if (entry.isValid())
         return;
     // A line that could not be read is written back exactly as read, so editing its cells would be lost.

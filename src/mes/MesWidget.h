@@ -2,6 +2,7 @@
 
 #include "Mesfile.h"
 
+#include <QFont>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -73,4 +74,6 @@ private:
     int currentRow = -1;
     int currentColumn = -1;
     QString lineToolTip;
+    // The font of the number column while the table is filled.
+    QFont boldFont;
 };

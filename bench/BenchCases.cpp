@@ -1,0 +1,285 @@
+#include "BenchCases.h"
+
+#include "Artfile.h"
+#include "BenchInputs.h"
+#include "DialogueFileNew.h"
+#include "Manager.h"
+#include "MesWidget.h"
+#include "Mesfile.h"
+#include "Proto.h"
+#include "SafeSave.h"
+#include "Script.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QTextCodec>
+
+#include <benchmark/benchmark.h>
+
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <set>
+
+namespace {
+
+QByteArray readAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+double fileSize(const QString& path)
+{
+    return double(QFileInfo(path).size());
+}
+
+std::string stdPath(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+// Collects the cases and registers each as a wall-clock benchmark that reports bytes per second.
+// A case's setup (loading the model it saves, say) runs only when the case runs, so a filtered run
+// or a profiler pays only for the cases it asks for.
+class Registrar
+{
+public:
+    using Body = std::function<void()>;
+
+    void add(const std::string& name, double bytes, Goal goal, double limit, Body body)
+    {
+        addPrepared(name, bytes, goal, limit, [body] { return body; });
+    }
+
+    void addPrepared(const std::string& name, double bytes, Goal goal, double limit, std::function<Body()> prepare)
+    {
+        cases.push_back({name, bytes, goal, limit});
+        // Prepared again for every run and released after it, so no case runs on a heap that an
+        // earlier case's models still fill.
+        auto* bench = benchmark::RegisterBenchmark(name.c_str(), [bytes, prepare](benchmark::State& state) {
+            const Body body = prepare();
+            for (auto _ : state)
+                body();
+            state.SetBytesProcessed(int64_t(double(state.iterations()) * bytes));
+        });
+        bench->UseRealTime()->Unit(benchmark::kMillisecond);
+    }
+
+    // One memcpy of each byte count any case processes, timed in the same run.
+    void addMemcpys() const
+    {
+        std::set<double> sizes;
+        for (const BenchCase& c : cases)
+            sizes.insert(c.bytes);
+        for (double bytes : sizes) {
+            auto* bench = benchmark::RegisterBenchmark(memcpyName(bytes).c_str(), [bytes](benchmark::State& state) {
+                const auto size = std::size_t(bytes);
+                std::vector<char> from(size, 'x');
+                std::vector<char> to(size);
+                for (auto _ : state) {
+                    std::memcpy(to.data(), from.data(), size);
+                    benchmark::DoNotOptimize(to.data());
+                    benchmark::ClobberMemory();
+                }
+                state.SetBytesProcessed(int64_t(double(state.iterations()) * bytes));
+            });
+            bench->UseRealTime()->Unit(benchmark::kMillisecond);
+        }
+    }
+
+    std::vector<BenchCase> cases;
+};
+
+// The part of a save that is the file system alone: the same bytes through the same safe-save path.
+void addFileWrite(Registrar& r, const std::string& what, const QString& source, const QString& target)
+{
+    r.addPrepared("file write, " + what, fileSize(source), Goal::None, 0, [source, target] {
+        const QByteArray bytes = readAll(source);
+        return [bytes, target] { arcanum::SafeSave::write(target, bytes); };
+    });
+}
+
+// Load and save through the message-file model (a .dlg file opens as its table).
+void addMesfile(Registrar& r, const std::string& load, const std::string& save, const QString& path,
+                const QString& target, const char* codecName)
+{
+    const double bytes = fileSize(path);
+    QTextCodec* codec = QTextCodec::codecForName(codecName);
+    r.add(load, bytes, Goal::TextLoad, 50, [path, codec] {
+        std::unique_ptr<arcanum::Mesfile> mes(arcanum::Mesfile::getInstance(path));
+        mes->load(codec);
+        benchmark::DoNotOptimize(mes->getEntryCount());
+    });
+    r.addPrepared(save, bytes, Goal::TextSave, 100, [path, target, codec] {
+        std::shared_ptr<arcanum::Mesfile> loaded(arcanum::Mesfile::getInstance(path));
+        loaded->load(codec);
+        return [loaded, target, codec] { loaded->save(target, codec); };
+    });
+}
+
+void addMes(Registrar& r, const QString& game, const QString& out)
+{
+    const QString path = BenchInputs::mesPath(game);
+    const QString target = out + QStringLiteral("/out.mes");
+    addMesfile(r, "mes load (200 000 entries)", "mes save", path, target, "UTF-8");
+    addFileWrite(r, "mes bytes", path, target);
+}
+
+// Load and save of one model: read(model, path) loads it, write(model, path) saves it. A text format
+// is held to the text targets, a binary one to the binary target.
+template <typename Model>
+void addLoadSave(Registrar& r, const std::string& load, const std::string& save, bool text,
+                                   const QString& path, const QString& target,
+                                   std::function<void(Model&, const QString&)> read,
+                                   std::function<void(Model&, const QString&)> write)
+{
+    const double bytes = fileSize(path);
+    r.add(load, bytes, text ? Goal::TextLoad : Goal::Binary, text ? 50 : 300, [path, read] {
+        Model model;
+        read(model, path);
+        benchmark::ClobberMemory();
+    });
+    r.addPrepared(save, bytes, text ? Goal::TextSave : Goal::Binary, text ? 100 : 300,
+                  [path, target, read, write]() -> Registrar::Body {
+                      auto loaded = std::make_shared<Model>();
+                      read(*loaded, path);
+                      return [loaded, target, write] { write(*loaded, target); };
+                  });
+    addFileWrite(r, save.substr(0, 3) + " bytes", path, target);
+}
+
+void addDialogue(Registrar& r, const QString& game, const QString& out)
+{
+    const QString path = BenchInputs::dlgPath(game);
+    const QString target = out + QStringLiteral("/out.dlg");
+    addLoadSave<arcanum::DialogueFileNew>(
+        r, "dlg load, dialogue editor", "dlg save, dialogue editor", true, path, target,
+        [](arcanum::DialogueFileNew& dialogue, const QString& from) {
+            const QFile file(from);
+            dialogue = arcanum::DialogueFileNew(&file);
+            dialogue.load();
+        },
+        [](arcanum::DialogueFileNew& dialogue, const QString& to) {
+            QFile file(to);
+            dialogue.save(&file);
+        });
+    addMesfile(r, "dlg load, message table", "dlg save, message table", path, target, "Windows-1251");
+}
+
+void addScript(Registrar& r, const QString& game, const QString& out)
+{
+    addLoadSave<arcanum::Script>(
+        r, "scr load (100 000 lines)", "scr save", false, BenchInputs::scriptPath(game),
+        out + QStringLiteral("/00001out.scr"), [](arcanum::Script& script, const QString& from) { script.load(from); },
+        [](arcanum::Script& script, const QString& to) { script.save(to); });
+}
+
+void addArt(Registrar& r, const QString& game, const QString& out)
+{
+    const QString path = BenchInputs::artPath(game);
+    addLoadSave<arcanum::Artfile>(
+        r, "art load (8 x 64 frames 256 x 256)", "art save", false, path, out + QStringLiteral("/out.art"),
+        [](arcanum::Artfile& art, const QString& from) { art.load(stdPath(from)); },
+        [](arcanum::Artfile& art, const QString& to) { art.save(to); });
+    const double pixels = double(BenchInputs::ART_IMAGES) * BenchInputs::ART_FRAMES * BenchInputs::ART_SIDE
+        * BenchInputs::ART_SIDE;
+    r.addPrepared("art convertTo, every frame (pixels)", pixels, Goal::Pixels, 500, [path]() -> Registrar::Body {
+        auto loaded = std::make_shared<arcanum::Artfile>();
+        loaded->load(stdPath(path));
+        return [loaded] {
+            QImage image;
+            for (unsigned i = 0; i < loaded->getImageCount(); ++i) {
+                for (unsigned f = 0; f < loaded->getFrameCount(); ++f)
+                    loaded->convertTo(image, 0, i, f);
+            }
+            benchmark::DoNotOptimize(image.constBits());
+        };
+    });
+}
+
+void addProtos(Registrar& r, const QString& game, const QString& out)
+{
+    std::vector<std::string> sources;
+    std::vector<std::string> targets;
+    double bytes = 0;
+    for (int i = 0; i < BenchInputs::PROTO_FILES; ++i) {
+        const QString source = BenchInputs::protoDir(game) + BenchInputs::protoName(i);
+        sources.push_back(stdPath(source));
+        targets.push_back(stdPath(out + QLatin1Char('/') + BenchInputs::protoName(i)));
+        bytes += fileSize(source);
+    }
+    r.add("pro load, 10 000 files", bytes, Goal::Seconds, 1.0, [sources] {
+        arcanum::Proto proto;
+        for (const std::string& source : sources)
+            proto.load(source);
+        benchmark::DoNotOptimize(proto.isLoaded());
+    });
+    r.addPrepared("pro save, 10 000 files", bytes, Goal::Binary, 300, [sources, targets] {
+        auto loaded = std::make_shared<std::vector<std::unique_ptr<arcanum::Proto>>>();
+        for (const std::string& source : sources) {
+            loaded->push_back(std::make_unique<arcanum::Proto>());
+            loaded->back()->load(source);
+        }
+        return [loaded, targets] {
+            for (std::size_t i = 0; i < targets.size(); ++i)
+                (*loaded)[i]->save(targets[i]);
+        };
+    });
+    // The same bytes through the safe-save path file by file: what the file system alone costs.
+    r.addPrepared("file write, 10 000 .pro", bytes, Goal::None, 0, [sources, targets] {
+        auto contents = std::make_shared<std::vector<QByteArray>>();
+        for (const std::string& source : sources)
+            contents->push_back(readAll(QFile::decodeName(QByteArray::fromStdString(source))));
+        return [contents, targets] {
+            for (std::size_t i = 0; i < targets.size(); ++i)
+                arcanum::SafeSave::write(QFile::decodeName(QByteArray::fromStdString(targets[i])), (*contents)[i]);
+        };
+    });
+    // The scan reads no file; its ratio is to copying as many bytes as the files hold.
+    r.addPrepared("Manager::reloadAll, 10 000 files", bytes, Goal::Seconds, 0.1, [game] {
+        auto manager = std::make_shared<arcanum::Manager>();
+        manager->setBaseDir(game);
+        return [manager] {
+            manager->reloadAll();
+            benchmark::DoNotOptimize(manager->prototypes.size());
+        };
+    });
+}
+
+void addMesWidget(Registrar& r, const QString& game)
+{
+    const QString path = BenchInputs::mesPath(game);
+    r.addPrepared("MesWidget shows 200 000 entries", fileSize(path), Goal::Seconds, 2.0, [path]() -> Registrar::Body {
+        auto widget = std::make_shared<MesWidget>(nullptr, QStringLiteral("UTF-8"));
+        widget->resize(1000, 700);
+        widget->show();
+        QApplication::processEvents();
+        return [widget, path] {
+            widget->loadMes(path);
+            QApplication::processEvents();
+        };
+    });
+}
+
+} // namespace
+
+std::string memcpyName(double bytes)
+{
+    return "memcpy " + std::to_string(static_cast<long long>(bytes)) + " bytes";
+}
+
+std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString& outDir)
+{
+    Registrar r;
+    addMes(r, gameDir, outDir);
+    addDialogue(r, gameDir, outDir);
+    addScript(r, gameDir, outDir);
+    addArt(r, gameDir, outDir);
+    addProtos(r, gameDir, outDir);
+    addMesWidget(r, gameDir);
+    r.addMemcpys();
+    return r.cases;
+}
