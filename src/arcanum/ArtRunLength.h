@@ -18,6 +18,9 @@ public:
     // pixels no run reaches are left as they are.
     static void decode(const QByteArray& data, quint8* pixels, std::size_t pixelCount);
 
+    // The most pixels dataSize bytes can decode to: every two bytes a repeat run of the longest length.
+    static quint64 mostPixels(quint64 dataSize);
+
     // Encodes pixelCount pixels. The result never has exactly pixelCount bytes, because a frame whose
     // data size equals its pixel count is read as raw.
     static QByteArray encode(const quint8* pixels, std::size_t pixelCount);
