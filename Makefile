@@ -79,7 +79,7 @@ fuzz: fuzz-deps fuzz-build
 	@failed=""; for kind in $(FUZZ_KINDS); do \
 	    bin=$(FUZZ_DIR)/fuzz/fuzz_$$(echo $$kind | tr - _); \
 	    mkdir -p $(FUZZ_DIR)/corpus/$$kind $(FUZZ_DIR)/findings/$$kind $(FUZZ_DIR)/logs; \
-	    cp -n $(FUZZ_DIR)/fuzz/seeds/$$kind/* $(FUZZ_DIR)/corpus/$$kind/; \
+	    cp -n $(FUZZ_DIR)/fuzz/seeds/$$kind/* $(FUZZ_DIR)/corpus/$$kind/ 2>/dev/null; \
 	    echo "== $$kind: $(FUZZ_SECONDS) s"; \
 	    $$bin $(FUZZ_OPTIONS) -max_total_time=$(FUZZ_SECONDS) \
 	        -artifact_prefix=$(FUZZ_DIR)/findings/$$kind/ $(FUZZ_DIR)/corpus/$$kind \
