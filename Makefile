@@ -84,7 +84,7 @@ fuzz: fuzz-deps fuzz-build
 	    $$bin $(FUZZ_OPTIONS) -max_total_time=$(FUZZ_SECONDS) \
 	        -artifact_prefix=$(FUZZ_DIR)/findings/$$kind/ $(FUZZ_DIR)/corpus/$$kind \
 	        > $(FUZZ_DIR)/logs/$$kind.log 2>&1 || failed="$$failed $$kind"; \
-	    grep -E "^#[0-9]+ +DONE|^stat::number_of_executed_units|SUMMARY" $(FUZZ_DIR)/logs/$$kind.log; \
+	    grep -E "^#[0-9]+[[:space:]]+DONE|^stat::number_of_executed_units|SUMMARY" $(FUZZ_DIR)/logs/$$kind.log; \
 	done; \
 	if [ -n "$$failed" ]; then echo "Findings for:$$failed (see $(FUZZ_DIR)/findings and $(FUZZ_DIR)/logs)"; exit 1; fi
 
@@ -99,7 +99,7 @@ fuzz-smoke:
 	    echo "== fuzz-smoke $$kind"; \
 	    $$bin $(FUZZ_OPTIONS) -max_total_time=10 -artifact_prefix=$$scratch/ $$scratch $(FUZZ_DIR)/fuzz/seeds/$$kind \
 	        > $$scratch/log 2>&1 || { failed="$$failed $$kind"; cat $$scratch/log; }; \
-	    grep -E "^#[0-9]+ +DONE" $$scratch/log; \
+	    grep -E "^#[0-9]+[[:space:]]+DONE" $$scratch/log; \
 	    rm -rf $$scratch; \
 	done; \
 	if [ -n "$$failed" ]; then echo "fuzz-smoke failed for:$$failed"; exit 1; fi
