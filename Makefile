@@ -6,16 +6,19 @@ PACKAGES := qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-image-formats-pl
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
+# The fuzzing harnesses need clang and its sanitizer and libFuzzer runtimes.
+FUZZ_PACKAGES := clang-14 libclang-rt-14-dev
+
 RELEASE_DIR := build/release
 TEST_DIR := build/test
 SAMPLE_GAME := examples/sample-game
 
-.PHONY: run test deps release screenshots samples clean bench
+.PHONY: run test deps release screenshots samples clean bench fuzz fuzz-deps fuzz-build fuzz-smoke
 
 run: release
 	cd $(SAMPLE_GAME) && ../../$(RELEASE_DIR)/src/qtLoreka
 
-test: deps
+test: deps fuzz-deps
 	cmake -S . -B $(TEST_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug \
 	      -DLOREKA_SANITIZE=ON -DLOREKA_WERROR=ON
 	cmake --build $(TEST_DIR) -j $(JOBS)
@@ -24,6 +27,7 @@ test: deps
 	    LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp:print_suppressions=0 \
 	    UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	    ctest --output-on-failure -j $(JOBS)
+	$(MAKE) fuzz-smoke
 
 release: deps
 	cmake -S . -B $(RELEASE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLOREKA_BUILD_TESTS=OFF
@@ -61,10 +65,54 @@ BENCH_DIR := build/bench
 BENCH_REPETITIONS ?= 3
 
 bench: deps
-	@dpkg -s libbenchmark-dev >/dev/null 2>&1 || { echo "Installing: libbenchmark-dev"; \
-	    $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get update -q && \
-	    $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends libbenchmark-dev; }
+	@$(MAKE) --no-print-directory deps PACKAGES="libbenchmark-dev"
 	cmake -S . -B $(BENCH_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLOREKA_BENCH=ON -DLOREKA_BUILD_TESTS=OFF
 	cmake --build $(BENCH_DIR) --target loreka-bench -j $(JOBS)
 	cd $(BENCH_DIR) && QT_QPA_PLATFORM=offscreen ./bench/loreka-bench \
 	    --benchmark_repetitions=$(BENCH_REPETITIONS) --benchmark_report_aggregates_only=true
+
+# ---- Fuzzing: one libFuzzer harness per file format reader (see fuzz/) ----
+FUZZ_DIR := build/fuzz
+FUZZ_SECONDS ?= 60
+FUZZ_KINDS := mes-utf8 mes-cp1251 dlg-table dlg scr art pro aap
+# Sprites may be large, but no input of a few kilobytes has a reason to need more than this.
+FUZZ_OPTIONS := -rss_limit_mb=2048 -timeout=25 -print_final_stats=1
+
+fuzz-deps:
+	@$(MAKE) --no-print-directory deps PACKAGES="$(FUZZ_PACKAGES)"
+
+fuzz-build:
+	CC=clang-14 CXX=clang++-14 cmake -S . -B $(FUZZ_DIR) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	    -DLOREKA_FUZZ=ON -DLOREKA_BUILD_TESTS=OFF
+	cmake --build $(FUZZ_DIR) -j $(JOBS)
+
+# Each harness runs FUZZ_SECONDS on a working corpus that starts from its seeds and keeps growing
+# between runs; crashes, leaks and slow inputs land in build/fuzz/findings/<kind>/.
+fuzz: fuzz-deps fuzz-build
+	@failed=""; for kind in $(FUZZ_KINDS); do \
+	    bin=$(FUZZ_DIR)/fuzz/fuzz_$$(echo $$kind | tr - _); \
+	    mkdir -p $(FUZZ_DIR)/corpus/$$kind $(FUZZ_DIR)/findings/$$kind $(FUZZ_DIR)/logs; \
+	    cp -n $(FUZZ_DIR)/fuzz/seeds/$$kind/* $(FUZZ_DIR)/corpus/$$kind/ 2>/dev/null; \
+	    echo "== $$kind: $(FUZZ_SECONDS) s"; \
+	    $$bin $(FUZZ_OPTIONS) -max_total_time=$(FUZZ_SECONDS) \
+	        -artifact_prefix=$(FUZZ_DIR)/findings/$$kind/ $(FUZZ_DIR)/corpus/$$kind \
+	        > $(FUZZ_DIR)/logs/$$kind.log 2>&1 || failed="$$failed $$kind"; \
+	    grep -E "^#[0-9]+[[:space:]]+DONE|^stat::number_of_executed_units|SUMMARY" $(FUZZ_DIR)/logs/$$kind.log; \
+	done; \
+	if [ -n "$$failed" ]; then echo "Findings for:$$failed (see $(FUZZ_DIR)/findings and $(FUZZ_DIR)/logs)"; exit 1; fi
+
+# Keeps the harnesses compiling and alive: 10 seconds each on the seeds alone.
+fuzz-smoke:
+	@if ! command -v clang++-14 >/dev/null 2>&1; then \
+	    echo "fuzz-smoke: clang++-14 is not installed, the fuzzing harnesses are skipped"; exit 0; fi; \
+	$(MAKE) --no-print-directory fuzz-build && \
+	failed=""; for kind in $(FUZZ_KINDS); do \
+	    bin=$(FUZZ_DIR)/fuzz/fuzz_$$(echo $$kind | tr - _); \
+	    scratch=$$(mktemp -d); \
+	    echo "== fuzz-smoke $$kind"; \
+	    $$bin $(FUZZ_OPTIONS) -max_total_time=10 -artifact_prefix=$$scratch/ $$scratch $(FUZZ_DIR)/fuzz/seeds/$$kind \
+	        > $$scratch/log 2>&1 || { failed="$$failed $$kind"; cat $$scratch/log; }; \
+	    grep -E "^#[0-9]+[[:space:]]+DONE" $$scratch/log; \
+	    rm -rf $$scratch; \
+	done; \
+	if [ -n "$$failed" ]; then echo "fuzz-smoke failed for:$$failed"; exit 1; fi

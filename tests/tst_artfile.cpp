@@ -458,6 +458,10 @@ private slots:
         hugeFrame.artType = 1;
         hugeFrame.frames = {{0xFFFFFFFF, 0xFFFFFFFF, QByteArray("\x7F\x01", 2)}};
         QTest::newRow("frame size") << hugeFrame.bytes() << true;
+        ArtBytes unfillable; // 4096 x 4096 claimed, one run of 127 pixels present
+        unfillable.artType = 1;
+        unfillable.frames = {{4096, 4096, QByteArray("\x7F\x01", 2)}};
+        QTest::newRow("frame larger than its data fills") << unfillable.bytes() << true;
         QTest::newRow("short header") << QByteArray(131, '\0') << false;
         ArtBytes marks = directions(0, 1);
         marks.marks[3] = 1; // four palettes claimed, two present

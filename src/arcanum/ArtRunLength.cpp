@@ -57,6 +57,11 @@ quint64 ArtRunLength::decodedLength(const QByteArray& data)
     return length;
 }
 
+quint64 ArtRunLength::mostPixels(quint64 dataSize)
+{
+    return dataSize / 2 * MAX_RUN;
+}
+
 std::size_t ArtRunLength::repeatLength(const quint8* pixels, std::size_t from, std::size_t count)
 {
     std::size_t end = from + 1;

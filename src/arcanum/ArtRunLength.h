@@ -21,6 +21,9 @@ public:
     // count it tells a frame whose runs over- or under-fill it.
     static quint64 decodedLength(const QByteArray& data);
 
+    // The most pixels dataSize bytes can decode to: every two bytes a repeat run of the longest length.
+    static quint64 mostPixels(quint64 dataSize);
+
     // Encodes pixelCount pixels. The result never has exactly pixelCount bytes, because a frame whose
     // data size equals its pixel count is read as raw.
     static QByteArray encode(const quint8* pixels, std::size_t pixelCount);

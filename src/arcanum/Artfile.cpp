@@ -425,8 +425,11 @@ bool Artfile::convertTo(QImage& out, unsigned palette, unsigned image, unsigned 
         say("Cannot convertTo: wrong frame requested.");
         return false;
     }
+    // A run-length frame larger than its data could ever fill has a damaged size; drawing it would
+    // only cost memory and time for a picture that is nearly all blank.
     const quint64 pixels = quint64(source->width) * source->height;
-    if (pixels == 0 || pixels > MAX_FRAME_PIXELS) {
+    const bool unreachable = !source->isRaw() && pixels > ArtRunLength::mostPixels(source->dataSize);
+    if (pixels == 0 || pixels > MAX_FRAME_PIXELS || unreachable) {
         say("Cannot convertTo: frame size out of range.");
         return false;
     }

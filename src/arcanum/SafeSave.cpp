@@ -8,7 +8,9 @@ SafeSave::Result SafeSave::write(const QString& path, const QByteArray& bytes, Q
 {
     QSaveFile file(path);
     Result result = Saved;
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
+    // Unbuffered, so a write the disk cuts short shows in write()'s count: a buffered QSaveFile
+    // flushes inside commit(), takes a partial write for success and puts the truncated file in place.
+    if (path.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         result = OpenFailed;
     else if (file.write(bytes) != bytes.size() || !file.commit())
         result = WriteFailed;

@@ -1,0 +1,257 @@
+#include "FuzzTargets.h"
+
+#include "Artfile.h"
+#include "DialogueFile.h"
+#include "DialogueFileNew.h"
+#include "Mesfile.h"
+#include "Proto.h"
+#include "Script.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTextCodec>
+
+#include <cstring>
+#include <iostream>
+#include <memory>
+#include <streambuf>
+
+namespace fuzz {
+
+namespace {
+
+// One directory per process, so parallel fuzzers and tests never share files.
+const QTemporaryDir& workDir()
+{
+    static const QTemporaryDir dir;
+    return dir;
+}
+
+QString workPath(const char* name, const char* suffix)
+{
+    return workDir().filePath(QLatin1String(name) + QLatin1String(suffix));
+}
+
+QString writeInput(const std::uint8_t* data, std::size_t size, const char* suffix)
+{
+    const QString path = workPath("input", suffix);
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(reinterpret_cast<const char*>(data), qint64(size));
+    return path;
+}
+
+QByteArray readBack(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::string native(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+// Saves what the input loaded to, loads that into a fresh model and saves again; returns 1 when what
+// we wrote does not load or save, or (where the format is stable) when the two saves differ.
+// load(path, model) returns false when the file is refused, save(model, path) when a loaded model
+// cannot be saved.
+enum Stability { Stable, Grows };
+
+template <typename Model, typename Load, typename Save>
+int roundTrip(const std::uint8_t* data, std::size_t size, const char* suffix, Load load, Save save,
+              Stability stability = Stable)
+{
+    const QString input = writeInput(data, size, suffix);
+    const QString first = workPath("first", suffix);
+    const QString second = workPath("second", suffix);
+    QFile::remove(first);
+    QFile::remove(second);
+    auto loaded = std::make_unique<Model>();
+    if (!load(input, *loaded) || !save(*loaded, first))
+        return 0;
+    auto reloaded = std::make_unique<Model>();
+    if (!load(first, *reloaded))
+        return 1; // what we wrote ourselves must load
+    if (!save(*reloaded, second))
+        return 1;
+    return stability == Grows || readBack(first) == readBack(second) ? 0 : 1;
+}
+
+QTextCodec* cp1251()
+{
+    return QTextCodec::codecForName("Windows-1251");
+}
+
+QTextCodec* utf8()
+{
+    return QTextCodec::codecForName("UTF-8");
+}
+
+template <typename Model>
+int roundTripTable(const std::uint8_t* data, std::size_t size, const char* suffix, QTextCodec* codec,
+                   Stability stability = Stable)
+{
+    return roundTrip<Model>(
+        data, size, suffix, [codec](const QString& path, Model& model) { return model.loadFile(path, codec); },
+        [codec](Model& model, const QString& path) { return model.save(path, codec); }, stability);
+}
+
+// Every frame through every palette: the conversion reads the pixel data the way the page shows it.
+void convertEveryFrame(arcanum::Artfile& art)
+{
+    QImage image;
+    for (unsigned palette = 0; palette < art.getPaletteCount(); ++palette) {
+        for (unsigned i = 0; i < art.getImageCount(); ++i) {
+            for (unsigned frame = 0; frame < art.getFrameCount(); ++frame)
+                art.convertTo(image, palette, i, frame);
+        }
+    }
+}
+
+class NullBuffer : public std::streambuf
+{
+protected:
+    int overflow(int c) override { return c; }
+    std::streamsize xsputn(const char*, std::streamsize count) override { return count; }
+};
+
+void dropMessages(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    if (type == QtFatalMsg) {
+        std::cerr << text.toLocal8Bit().constData() << std::endl;
+        std::abort();
+    }
+}
+
+const Target TARGETS[] = {
+    {"mes-utf8", ".mes", &roundTripMesUtf8},
+    {"mes-cp1251", ".mes", &roundTripMesCp1251},
+    {"dlg-table", ".dlg", &roundTripDialogueTable},
+    {"dlg", ".dlg", &roundTripDialogue},
+    {"scr", ".scr", &roundTripScript},
+    {"art", ".art", &roundTripArt},
+    {"pro", ".pro", &roundTripProto},
+    {"aap", ".aap", &roundTripPalette},
+};
+
+} // namespace
+
+int roundTripMesUtf8(const std::uint8_t* data, std::size_t size)
+{
+    return roundTripTable<arcanum::Mesfile>(data, size, ".mes", utf8());
+}
+
+int roundTripMesCp1251(const std::uint8_t* data, std::size_t size)
+{
+    return roundTripTable<arcanum::Mesfile>(data, size, ".mes", cp1251());
+}
+
+// The table writes text after a line's last field twice, as it always has, so each save grows.
+int roundTripDialogueTable(const std::uint8_t* data, std::size_t size)
+{
+    return roundTripTable<arcanum::DialogueFile>(data, size, ".dlg", cp1251(), Grows);
+}
+
+int roundTripDialogue(const std::uint8_t* data, std::size_t size)
+{
+    return roundTrip<arcanum::DialogueFileNew>(
+        data, size, ".dlg",
+        [](const QString& path, arcanum::DialogueFileNew& model) {
+            const QFile file(path);
+            model = arcanum::DialogueFileNew(&file);
+            return model.load();
+        },
+        [](const arcanum::DialogueFileNew& model, const QString& path) {
+            QFile file(path);
+            return model.save(&file);
+        });
+}
+
+// The script loader takes its number from the file name, so the input gets a numbered name.
+int roundTripScript(const std::uint8_t* data, std::size_t size)
+{
+    return roundTrip<arcanum::Script>(
+        data, size, ".scr",
+        [](const QString& path, arcanum::Script& model) {
+            QString numbered = workPath("00001fuzz", ".scr");
+            QFile::remove(numbered);
+            QFile::copy(path, numbered);
+            return model.load(numbered);
+        },
+        [](const arcanum::Script& model, const QString& path) { return model.save(path); });
+}
+
+int roundTripArt(const std::uint8_t* data, std::size_t size)
+{
+    return roundTrip<arcanum::Artfile>(
+        data, size, ".art",
+        [](const QString& path, arcanum::Artfile& model) {
+            model.load(native(path));
+            if (model.isLoaded())
+                convertEveryFrame(model);
+            return model.isLoaded();
+        },
+        [](arcanum::Artfile& model, const QString& path) { return model.save(path); });
+}
+
+int roundTripProto(const std::uint8_t* data, std::size_t size)
+{
+    return roundTrip<arcanum::Proto>(
+        data, size, ".pro",
+        [](const QString& path, arcanum::Proto& model) {
+            model.load(native(path));
+            return model.isLoaded();
+        },
+        [](const arcanum::Proto& model, const QString& path) { return model.save(native(path)); });
+}
+
+// A palette file is read the way the palette dialog reads it: its first 1024 bytes, missing
+// colours left as they were.
+int roundTripPalette(const std::uint8_t* data, std::size_t size)
+{
+    using arcanum::Artfile;
+    struct Palette
+    {
+        Artfile::Palette colours{};
+    };
+    return roundTrip<Palette>(
+        data, size, ".aap",
+        [](const QString& path, Palette& model) {
+            QFile file(path);
+            if (!file.open(QIODevice::ReadOnly))
+                return false;
+            Artfile::paletteFromBytes(file.read(Artfile::PALETTE_BYTES), model.colours);
+            return true;
+        },
+        [](const Palette& model, const QString& path) {
+            QFile file(path);
+            const QByteArray bytes = Artfile::paletteToBytes(model.colours);
+            return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+        });
+}
+
+const Target* targets(std::size_t* count)
+{
+    *count = sizeof TARGETS / sizeof TARGETS[0];
+    return TARGETS;
+}
+
+const Target* findTarget(const char* kind)
+{
+    for (const Target& target : TARGETS) {
+        if (std::strcmp(target.kind, kind) == 0)
+            return &target;
+    }
+    return nullptr;
+}
+
+void silence()
+{
+    static NullBuffer nothing;
+    std::cout.rdbuf(&nothing);
+    qInstallMessageHandler(dropMessages);
+}
+
+} // namespace fuzz
