@@ -11,49 +11,56 @@ constexpr std::size_t MAX_RUN = 0x7F;
 constexpr std::size_t MIN_REPEAT = 3;
 } // namespace
 
-void ArtRunLength::decode(const QByteArray& data, quint8* pixels, std::size_t pixelCount)
+namespace {
+
+// Walks the runs of the data once; decoding and counting must agree on how a run cut short by the
+// end of the data is read. literal(bytes, n) gets the n bytes a literal run still has; repeat(value, n)
+// a repeat run whose value byte is present.
+template <typename Literal, typename Repeat>
+void forEachRun(const QByteArray& data, Literal literal, Repeat repeat)
 {
     const auto* bytes = reinterpret_cast<const quint8*>(data.constData());
     const std::size_t size = std::size_t(data.size());
     std::size_t pos = 0;
-    std::size_t out = 0;
     while (pos < size) {
         const quint8 control = bytes[pos++];
         const std::size_t n = control & MAX_RUN;
-        const std::size_t room = pixelCount - out;
         if (control & LITERAL_BIT) {
-            const std::size_t copied = std::min({n, size - pos, room});
-            std::copy_n(bytes + pos, copied, pixels + out);
-            out += copied;
-            pos += n;
+            const std::size_t present = std::min(n, size - pos);
+            literal(bytes + pos, present);
+            pos += present;
         } else {
-            if (pos < size) {
-                const std::size_t filled = std::min(n, room);
-                std::fill_n(pixels + out, filled, bytes[pos]);
-                out += filled;
-            }
+            if (pos < size)
+                repeat(bytes[pos], n);
             ++pos;
         }
     }
 }
 
+} // namespace
+
+void ArtRunLength::decode(const QByteArray& data, quint8* pixels, std::size_t pixelCount)
+{
+    std::size_t out = 0;
+    forEachRun(
+        data,
+        [&](const quint8* from, std::size_t n) {
+            const std::size_t copied = std::min(n, pixelCount - out);
+            std::copy_n(from, copied, pixels + out);
+            out += copied;
+        },
+        [&](quint8 value, std::size_t n) {
+            const std::size_t filled = std::min(n, pixelCount - out);
+            std::fill_n(pixels + out, filled, value);
+            out += filled;
+        });
+}
+
 quint64 ArtRunLength::decodedLength(const QByteArray& data)
 {
-    const auto* bytes = reinterpret_cast<const quint8*>(data.constData());
-    const std::size_t size = std::size_t(data.size());
-    std::size_t pos = 0;
     quint64 length = 0;
-    while (pos < size) {
-        const quint8 control = bytes[pos++];
-        const std::size_t n = control & MAX_RUN;
-        if (control & LITERAL_BIT) {
-            length += std::min(n, size - pos);
-            pos += std::min(n, size - pos);
-        } else if (pos < size) {
-            length += n;
-            ++pos;
-        }
-    }
+    const auto count = [&length](auto, std::size_t n) { length += n; };
+    forEachRun(data, count, count);
     return length;
 }
 
