@@ -83,7 +83,8 @@ bool DialogueFileNew::readEntry(Lines& stream, bool* atEnd, int& line)
 {
     Entry entry = nextEntry(stream, atEnd);
     const int first = line;
-    const int start = first + static_cast<int>(entry.text.left(qMax(entry.start, 0)).count(QLatin1Char('\n')));
+    const QStringView beforeFirstBrace = QStringView(entry.text).left(qMax(entry.start, 0));
+    const int start = first + static_cast<int>(beforeFirstBrace.count(QLatin1Char('\n')));
     line += static_cast<int>(entry.text.count(QLatin1Char('\n'))) + 1;
     if (entry.items.size() < ENTRY_ITEM_COUNT) {
         mUnreadLine = first;
