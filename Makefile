@@ -77,6 +77,8 @@ FUZZ_SECONDS ?= 60
 FUZZ_KINDS := mes-utf8 mes-cp1251 dlg-table dlg scr art pro aap
 # Sprites may be large, but no input of a few kilobytes has a reason to need more than this.
 FUZZ_OPTIONS := -rss_limit_mb=2048 -timeout=25 -print_final_stats=1
+# The harness of $kind (a shell variable of the loops below): mes-utf8 is fuzz_mes_utf8.
+FUZZ_BIN = $(FUZZ_DIR)/fuzz/fuzz_$$(echo $$kind | tr - _)
 
 fuzz-deps:
 	@$(MAKE) --no-print-directory deps PACKAGES="$(FUZZ_PACKAGES)"
@@ -90,7 +92,7 @@ fuzz-build:
 # between runs; crashes, leaks and slow inputs land in build/fuzz/findings/<kind>/.
 fuzz: fuzz-deps fuzz-build
 	@failed=""; for kind in $(FUZZ_KINDS); do \
-	    bin=$(FUZZ_DIR)/fuzz/fuzz_$$(echo $$kind | tr - _); \
+	    bin=$(FUZZ_BIN); \
 	    mkdir -p $(FUZZ_DIR)/corpus/$$kind $(FUZZ_DIR)/findings/$$kind $(FUZZ_DIR)/logs; \
 	    cp -n $(FUZZ_DIR)/fuzz/seeds/$$kind/* $(FUZZ_DIR)/corpus/$$kind/ 2>/dev/null; \
 	    echo "== $$kind: $(FUZZ_SECONDS) s"; \
@@ -107,7 +109,7 @@ fuzz-smoke:
 	    echo "fuzz-smoke: clang++-14 is not installed, the fuzzing harnesses are skipped"; exit 0; fi; \
 	$(MAKE) --no-print-directory fuzz-build && \
 	failed=""; for kind in $(FUZZ_KINDS); do \
-	    bin=$(FUZZ_DIR)/fuzz/fuzz_$$(echo $$kind | tr - _); \
+	    bin=$(FUZZ_BIN); \
 	    scratch=$$(mktemp -d); \
 	    echo "== fuzz-smoke $$kind"; \
 	    $$bin $(FUZZ_OPTIONS) -max_total_time=10 -artifact_prefix=$$scratch/ $$scratch $(FUZZ_DIR)/fuzz/seeds/$$kind \
