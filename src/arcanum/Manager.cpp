@@ -1,11 +1,9 @@
 #include "Manager.h"
 
-#include "gui.h"
-
 namespace arcanum {
 
-Manager::Manager()
-    : baseDir(gui::getBaseDir())
+Manager::Manager(const QString& base)
+    : baseDir(base.isEmpty() ? QStringLiteral(".") : base)
 {
 }
 
@@ -21,10 +19,8 @@ bool Manager::setBaseDir(const QString& path)
     const QString previous = getBaseDirPath();
     // QDir reads an empty path as the working directory in some places and as nothing in others.
     baseDir.setPath(path.isEmpty() ? QStringLiteral(".") : QDir::toNativeSeparators(path));
-    if (baseDir.exists()) {
-        gui::setBaseDir(baseDir);
+    if (baseDir.exists())
         return true;
-    }
     baseDir.setPath(previous);
     return false;
 }

@@ -11,7 +11,7 @@ namespace arcanum {
 class Manager
 {
 public:
-    Manager();
+    explicit Manager(const QString& base = QString());
     ~Manager();
 
     QStringList scripts;
@@ -23,7 +23,7 @@ public:
     QStringList prototypes;
 
     QString getBaseDirPath() const;
-    // Accepts only an existing directory; a rejected one leaves directory and settings as they were.
+    // Accepts only an existing directory; a rejected one leaves the directory as it was.
     bool setBaseDir(const QString& path);
 
     void findFiles(const QString& subDir, const QStringList& patterns, QStringList& result);

@@ -12,15 +12,27 @@
 #include "Mesfile.h"
 #include "Proto.h"
 #include "Script.h"
-#include "gui.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <QSettings>
+
 #include <fstream>
 
 using namespace arcanum;
+
+namespace {
+
+// The editor's base directory, read from its settings file without writing to it.
+QString savedBaseDir()
+{
+    const QSettings settings(QStringLiteral("qtLoreka.ini"), QSettings::IniFormat);
+    return settings.value(QStringLiteral("Directories/BaseDir"), QStringLiteral(".")).toString();
+}
+
+} // namespace
 
 CheckCommand::CheckCommand(QTextCodec* mesCodec)
     : codec(mesCodec)
@@ -29,7 +41,7 @@ CheckCommand::CheckCommand(QTextCodec* mesCodec)
 
 int CheckCommand::run(const QString& dir)
 {
-    const QString base = dir.isEmpty() ? QDir::cleanPath(gui::getBaseDir().path()) : dir;
+    const QString base = dir.isEmpty() ? QDir::cleanPath(savedBaseDir()) : dir;
     const QString data = QDir::cleanPath(base + QStringLiteral("/data"));
     if (!QFileInfo(data).isDir()) {
         report.ioError(data, QStringLiteral("no such folder"));

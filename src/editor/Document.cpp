@@ -1,0 +1,55 @@
+#include "Document.h"
+
+#include "SafeSave.h"
+
+#include <QFileInfo>
+#include <QUndoStack>
+
+Document::Document(const QString& path, QObject* parent)
+    : QObject(parent)
+    , filePath(path)
+    , stack(new QUndoStack(this))
+{
+    connect(stack, &QUndoStack::cleanChanged, this, [this](bool clean) { emit modifiedChanged(!clean); });
+}
+
+Document::~Document() = default;
+
+QString Document::displayName() const
+{
+    return filePath.isEmpty() ? tr("untitled") : QFileInfo(filePath).fileName();
+}
+
+void Document::setPath(const QString& path)
+{
+    if (path == filePath)
+        return;
+    filePath = path;
+    emit pathChanged(filePath);
+}
+
+bool Document::isModified() const
+{
+    return !stack->isClean();
+}
+
+void Document::markUnsaved()
+{
+    stack->resetClean();
+}
+
+bool Document::save(const QString& path, QString& error)
+{
+    QByteArray bytes;
+    if (!serialize(bytes, error))
+        return false;
+    QString reason;
+    if (arcanum::SafeSave::write(path, bytes, &reason) != arcanum::SafeSave::Saved) {
+        error = reason.isEmpty() ? tr("the file could not be written") : reason;
+        return false;
+    }
+    setPath(path);
+    stack->setClean();
+    emit saved(filePath);
+    return true;
+}

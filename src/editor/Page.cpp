@@ -1,0 +1,71 @@
+#include "Page.h"
+
+#include "Document.h"
+#include "Prompt.h"
+#include "SaveGuard.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+Page::Page(QWidget* parent)
+    : QWidget(parent)
+{
+}
+
+Page::~Page() = default;
+
+bool Page::openFile(const QString& path)
+{
+    if (!SaveGuard::settle(this, document(), fileFilter()))
+        return false;
+    QString error;
+    std::unique_ptr<Document> loaded = load(path, error);
+    if (!loaded) {
+        Prompt::message(this, QMessageBox::Warning, tr("Cannot open file"),
+                        tr("Could not open %1: %2").arg(QDir::toNativeSeparators(path), error));
+        return false;
+    }
+    setDocument(std::move(loaded));
+    return true;
+}
+
+void Page::setDocument(std::unique_ptr<Document> document)
+{
+    // The old document goes only after the page stopped showing it and the window let go of its stack.
+    std::unique_ptr<Document> old = std::move(shown);
+    shown = std::move(document);
+    showDocument();
+    emit documentReplaced(shown.get());
+}
+
+bool Page::save()
+{
+    if (document() == nullptr)
+        return false;
+    const QString path = document()->path();
+    if (confirmOverwrite && !path.isEmpty() && QFileInfo::exists(path)
+        && Prompt::question(this, tr("Save"), tr("Overwrite %1?").arg(document()->displayName()),
+                            QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+               != QMessageBox::Yes)
+        return false;
+    return SaveGuard::saveInPlace(this, document(), fileFilter(), dialogFolder());
+}
+
+bool Page::saveAs()
+{
+    return document() != nullptr && SaveGuard::saveAs(this, document(), fileFilter(), dialogFolder());
+}
+
+void Page::browse()
+{
+    const QString path = Prompt::openFileName(this, tr("Open"), dialogFolder(), fileFilter());
+    if (!path.isEmpty())
+        openFile(path);
+}
+
+QString Page::dialogFolder() const
+{
+    if (document() != nullptr && !document()->path().isEmpty())
+        return QFileInfo(document()->path()).absolutePath();
+    return startFolder;
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+#include <memory>
+
+class Document;
+
+// A tab of the window: shows one document of its kind. The window knows pages through this interface
+// only; each page keeps its own controls and pushes every edit as a command on the document's stack.
+class Page : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Page(QWidget* parent = nullptr);
+    ~Page() override;
+
+    // Lower-case suffixes of the files this page opens ("mes", "dlg").
+    virtual QStringList suffixes() const = 0;
+    // The file-dialog filter of those files ("Message files (*.mes)").
+    virtual QString fileFilter() const = 0;
+    // Reads path into a new document; null and the reason when nothing of it can be shown. A file that
+    // can be shown in part loads, with its document's damage() saying what is missing.
+    virtual std::unique_ptr<Document> load(const QString& path, QString& error) const = 0;
+
+    Document* document() const { return shown.get(); }
+    // Asks to save the shown document's changes first (Save / Discard / Cancel), then loads path and
+    // shows it; false when the user cancelled or the file could not be read (after saying why).
+    bool openFile(const QString& path);
+    // Puts a loaded document on the page without asking (the caller has asked); null empties the page.
+    void setDocument(std::unique_ptr<Document> document);
+    // Saves in place (Save As when the document has no path yet); false when cancelled or failed.
+    bool save();
+    bool saveAs();
+    // Asks for a file of this page's kind and opens it.
+    void browse();
+    // The folder file dialogs start in when no document is open.
+    void setStartFolder(const QString& folder) { startFolder = folder; }
+    // Whether Save in place asks "Overwrite NAME?" first (on by default).
+    void setConfirmOverwrite(bool confirm) { confirmOverwrite = confirm; }
+
+signals:
+    // The page shows another document (or none); the window moves its undo group and marks.
+    void documentReplaced(Document* document);
+
+protected:
+    // Fill the controls from document() (null: clear them). Called after every replacement.
+    virtual void showDocument() = 0;
+
+private:
+    QString dialogFolder() const;
+
+    std::unique_ptr<Document> shown;
+    QString startFolder;
+    bool confirmOverwrite = true;
+};
