@@ -189,6 +189,7 @@ private slots:
         for (const char* name : {"actionNew", "actionDelete"})
             QVERIFY(!window.findChild<QAction*>(QString::fromLatin1(name))->isEnabled());
         QCOMPARE(window.findChild<QAction*>(QStringLiteral("actionExit"))->shortcut(), QKeySequence("Ctrl+X"));
+        QCOMPARE(window.findChild<QAction*>(QStringLiteral("actionQuit"))->shortcut(), QKeySequence(QKeySequence::Quit));
         QCOMPARE(window.findChild<QAction*>(QStringLiteral("actionNew"))->shortcut(), QKeySequence("Ctrl+N"));
         QCOMPARE(window.findChild<QListWidget*>(QStringLiteral("listScripts"))->width(), 280);
         QCOMPARE(window.scriptPage()->minimumHeight(), 280);
@@ -199,125 +200,46 @@ private slots:
     {
         QTemporaryDir game;
         const QString base = QDir(game.path()).absolutePath();
-        touch(base + QStringLiteral("/data/scr/00002sample.scr"));
         touch(base + QStringLiteral("/data/rules/r.mes"));
-        touch(base + QStringLiteral("/data/proto/w.pro"));
-        CurrentDirGuard cwd(base);
-        QVERIFY(cwd.ok);
+        touch(base + QStringLiteral("/data/art/monster/orc.aap"));
         gui::setBaseDir(QDir(base));
         {
             MainWindow window;
-            window.findChild<QListWidget*>(QStringLiteral("listScripts"))->setCurrentRow(0);
-            QCOMPARE(window.scriptPage()->getPath(), base + QStringLiteral("/data/scr/00002sample.scr"));
-
             auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
             QCOMPARE(tree->topLevelItemCount(), 5);
             QCOMPARE(tree->topLevelItem(4)->text(0), QStringLiteral("DLG"));
-            QCOMPARE(tree->topLevelItem(4)->childCount(), 0);
             tree->setCurrentItem(tree->topLevelItem(1)); // "RULES" itself loads nothing
-            QVERIFY(window.mesPage()->getFilename().isEmpty());
+            QVERIFY(!window.mesPage()->document());
             QCOMPARE(childTexts(tree->topLevelItem(1)), QStringList({"r.mes"}));
             tree->setCurrentItem(tree->topLevelItem(1)->child(0));
-            QCOMPARE(window.mesPage()->getFilename(), base + QStringLiteral("/data/rules/r.mes"));
+            QCOMPARE(window.mesPage()->document()->path(), base + QStringLiteral("/data/rules/r.mes"));
 
-            window.findChild<QListWidget*>(QStringLiteral("protoList"))->setCurrentRow(0);
-            QCOMPARE(QString::fromStdString(window.protoPage()->getPath()), base + QStringLiteral("/data/proto/w.pro"));
-        }
-        gui::settings.remove(QStringLiteral("Directories"));
-    }
-
-    void artTreeLoadsArtFilesOnly()
-    {
-        QTemporaryDir game;
-        const QString base = QDir(game.path()).absolutePath();
-        touch(base + QStringLiteral("/data/art/monster/Orc.ART"));
-        touch(base + QStringLiteral("/data/art/monster/orc.aap"));
-        CurrentDirGuard cwd(base);
-        QVERIFY(cwd.ok);
-        {
-            MainWindow window;
-            auto* tree = window.findChild<QTreeView*>(QStringLiteral("artTree"));
-            auto* model = qobject_cast<QFileSystemModel*>(tree->model());
-            QVERIFY(model);
+            auto* artTree = window.findChild<QTreeView*>(QStringLiteral("artTree"));
+            auto* model = qobject_cast<QFileSystemModel*>(artTree->model());
             QCOMPARE(model->columnCount(), 1);
-            QCOMPARE(model->filePath(tree->rootIndex()), base + QStringLiteral("/data/art"));
-            const QModelIndex folder = model->index(base + QStringLiteral("/data/art/monster"));
-            emit tree->activated(folder);
-            QVERIFY(window.artPage()->getPath().empty());
-            emit tree->activated(model->index(base + QStringLiteral("/data/art/monster/orc.aap")));
-            QVERIFY(window.artPage()->getPath().empty());
-            emit tree->activated(model->index(base + QStringLiteral("/data/art/monster/Orc.ART")));
-            QCOMPARE(QString::fromStdString(window.artPage()->getPath()),
-                     base + QStringLiteral("/data/art/monster/Orc.ART"));
+            QCOMPARE(model->filePath(artTree->rootIndex()), base + QStringLiteral("/data/art"));
+            emit artTree->activated(model->index(base + QStringLiteral("/data/art/monster")));
+            emit artTree->activated(model->index(base + QStringLiteral("/data/art/monster/orc.aap")));
+            QVERIFY(!window.artPage()->document());
         }
-    }
-
-    void configureRescansOnlyOnChange()
-    {
-        QTemporaryDir first;
-        QTemporaryDir second;
-        touch(first.path() + QStringLiteral("/data/mes/one.mes"));
-        touch(second.path() + QStringLiteral("/data/mes/two.mes"));
-        gui::setBaseDir(QDir(first.path()));
-        MainWindow window;
-        auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
-        touch(first.path() + QStringLiteral("/data/mes/new.mes"));
-
-        ScriptedAnswerer answers;
-        answers.dialogs.enqueue([](QDialog& dialog) { return dialog.accept(), int(QDialog::Accepted); });
-        window.findChild<QAction*>(QStringLiteral("actionConfigure"))->trigger();
-        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
-        QCOMPARE(childTexts(tree->topLevelItem(0)), QStringList({"one.mes"}));
-
-        const QString target = second.path();
-        answers.dialogs.enqueue([target](QDialog& dialog) {
-            auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("baseDirLineEdit"));
-            edit->setText(target);
-            emit edit->editingFinished();
-            return int(QDialog::Rejected); // Cancel does not undo the change
-        });
-        window.findChild<QAction*>(QStringLiteral("actionConfigure"))->trigger();
-        QCOMPARE(childTexts(tree->topLevelItem(0)), QStringList({"two.mes"}));
-        QCOMPARE(window.getManager().getBaseDirPath(), QDir(second.path()).absolutePath());
         gui::settings.remove(QStringLiteral("Directories"));
     }
 
-    void optionsLineEdit()
+    void optionsChangeNothingUntilAccepted()
     {
         QTemporaryDir game;
-        arcanum::Manager manager;
-        QVERIFY(manager.setBaseDir(game.path()));
-        DialogOptions dialog(nullptr, &manager);
+        DialogOptions dialog(nullptr, game.path());
         auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("baseDirLineEdit"));
-        QCOMPARE(edit->text(), QDir(game.path()).absolutePath());
-
-        edit->setText(QStringLiteral("/nonexistent/qtloreka"));
-        emit edit->editingFinished();
-        QCOMPARE(edit->text(), QDir(game.path()).absolutePath());
-
-        QDir().mkpath(QStringLiteral("relative/game"));
-        edit->setText(QStringLiteral("relative/game"));
-        emit edit->editingFinished();
-        QCOMPARE(edit->text(), QDir::current().absoluteFilePath(QStringLiteral("relative/game")));
-        QCOMPARE(gui::settings.value(QStringLiteral("Directories/BaseDir")).toString(), edit->text());
-
-        const QList<QCheckBox*> boxes = dialog.findChildren<QCheckBox*>();
-        QCOMPARE(boxes.size(), 12);
-        gui::settings.remove(QStringLiteral("Directories"));
-    }
-
-    void cancelledBrowseChoosesWorkingDirectory()
-    {
-        QTemporaryDir game;
-        arcanum::Manager manager;
-        QVERIFY(manager.setBaseDir(game.path()));
-        DialogOptions dialog(nullptr, &manager);
-        ScriptedAnswerer answers; // no file name queued: the chooser is cancelled
+        QCOMPARE(edit->text(), game.path());
+        ScriptedAnswerer answers; // no directory queued: the chooser is cancelled
         QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("baseDirBrowse")), Qt::LeftButton);
         QCOMPARE(answers.last(QStringLiteral("directory"))->title, QStringLiteral("Choose Arcanum base directory"));
-        QCOMPARE(manager.getBaseDirPath(), QDir::currentPath());
-        QVERIFY(dialog.findChild<QLineEdit*>(QStringLiteral("baseDirLineEdit"))->text().isEmpty());
-        gui::settings.remove(QStringLiteral("Directories"));
+        QCOMPARE(dialog.baseDir(), game.path());
+        answers.fileNames.enqueue(QStringLiteral("/elsewhere"));
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("baseDirBrowse")), Qt::LeftButton);
+        QCOMPARE(dialog.baseDir(), QStringLiteral("/elsewhere"));
+        QVERIFY(!gui::settings.contains(QStringLiteral("Directories/BaseDir")));
+        QCOMPARE(dialog.findChildren<QCheckBox*>().size(), 12);
     }
 
     void aboutShowsVersion()

@@ -1,22 +1,24 @@
 #include "DialogOptions.h"
 
-#include "Manager.h"
 #include "Prompt.h"
 #include "ui_DialogOptions.h"
 
 #include <QEvent>
 
-DialogOptions::DialogOptions(QWidget* parent, arcanum::Manager* manager)
+DialogOptions::DialogOptions(QWidget* parent, const QString& baseDir)
     : QDialog(parent)
     , ui(std::make_unique<Ui_DialogOptions>())
-    , manager(manager)
 {
     ui->setupUi(this);
-    if (manager)
-        ui->baseDirLineEdit->setText(manager->getBaseDirPath());
+    ui->baseDirLineEdit->setText(baseDir);
 }
 
 DialogOptions::~DialogOptions() = default;
+
+QString DialogOptions::baseDir() const
+{
+    return ui->baseDirLineEdit->text();
+}
 
 void DialogOptions::changeEvent(QEvent* event)
 {
@@ -25,21 +27,10 @@ void DialogOptions::changeEvent(QEvent* event)
         ui->retranslateUi(this);
 }
 
-void DialogOptions::on_baseDirLineEdit_editingFinished()
-{
-    if (!manager)
-        return;
-    manager->setBaseDir(ui->baseDirLineEdit->text());
-    ui->baseDirLineEdit->setText(manager->getBaseDirPath());
-}
-
 void DialogOptions::on_baseDirBrowse_clicked()
 {
-    if (!manager)
-        return;
-    // A cancelled chooser answers "", which the manager takes as the working directory.
-    const QString dir = Prompt::existingDirectory(this, tr("Choose Arcanum base directory"),
-                                                  manager->getBaseDirPath());
-    if (manager->setBaseDir(dir))
+    const QString dir = Prompt::existingDirectory(this, tr("Choose Arcanum base directory"), baseDir());
+    // A cancelled chooser answers nothing: the directory stays as it was.
+    if (!dir.isEmpty())
         ui->baseDirLineEdit->setText(dir);
 }

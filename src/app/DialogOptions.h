@@ -5,27 +5,26 @@
 #include <memory>
 
 class Ui_DialogOptions;
-namespace arcanum {
-class Manager;
-}
 
-// Chooses the game's base directory; a change is stored at once, whatever button closes the dialog.
+// Chooses the game's base directory. Nothing changes until the dialog is accepted; the window then
+// settles open documents before it switches.
 class DialogOptions : public QDialog
 {
     Q_OBJECT
 
 public:
-    DialogOptions(QWidget* parent, arcanum::Manager* manager);
+    DialogOptions(QWidget* parent, const QString& baseDir);
     ~DialogOptions() override;
+
+    // The directory chosen in the dialog (as typed or browsed).
+    QString baseDir() const;
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private slots:
-    void on_baseDirLineEdit_editingFinished();
     void on_baseDirBrowse_clicked();
 
 private:
     std::unique_ptr<Ui_DialogOptions> ui;
-    arcanum::Manager* manager;
 };

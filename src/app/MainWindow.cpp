@@ -2,59 +2,270 @@
 
 #include "ArtModel.h"
 #include "ArtWidget.h"
+#include "DamageBanner.h"
 #include "DialogAbout.h"
 #include "DialogOptions.h"
 #include "DialogueEditWidget.h"
+#include "DiskWatcher.h"
+#include "Document.h"
 #include "MesWidget.h"
+#include "Page.h"
 #include "Prompt.h"
 #include "ProtoWidget.h"
+#include "RecoveryStore.h"
+#include "SaveGuard.h"
 #include "ScriptWidget.h"
 #include "gui.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
 #include <QFile>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QSessionManager>
+#include <QSettings>
+#include <QSplitter>
+#include <QTextEdit>
+#include <QTimer>
 #include <QTreeWidgetItem>
+#include <QUndoGroup>
+#include <QUndoStack>
+#include <QUndoView>
 
 namespace {
-const char* const MES_ITEM = QT_TRANSLATE_NOOP("MainWindow", "MES");
-const char* const RULES_ITEM = QT_TRANSLATE_NOOP("MainWindow", "RULES");
-const char* const SEMES_ITEM = QT_TRANSLATE_NOOP("MainWindow", "SEMES");
-const char* const OEMES_ITEM = QT_TRANSLATE_NOOP("MainWindow", "OEMES");
-const char* const DLG_ITEM = QT_TRANSLATE_NOOP("MainWindow", "DLG");
+const int RECOVERY_INTERVAL_MS = 30 * 1000;
+const char* const KEY_GEOMETRY = "Window/Geometry";
+const char* const KEY_STATE = "Window/State";
+const char* const KEY_TAB = "Window/Tab";
+const char* const KEY_SPLITTERS = "Window/Splitters/";
+const char* const SUBDIR_PROPERTY = "subDir";
+
+// The recovery folder sits beside the settings file, which belongs to the user's game setup.
+QString recoveryFolder()
+{
+    return QFileInfo(gui::getSettings()->fileName()).absolutePath() + QStringLiteral("/recovery");
+}
+
+QString withKey(const QString& text, const QKeySequence& key)
+{
+    return key.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText));
+}
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , ui(std::make_unique<Ui_MainWindowClass>())
+    , manager(gui::getBaseDir().path())
+    , undo(new QUndoGroup(this))
+    , watcher(new DiskWatcher(this))
+    , recoveryStore(std::make_unique<RecoveryStore>(recoveryFolder()))
 {
     ui->setupUi(this);
     setFont(gui::getGenericFont());
+    setAcceptDrops(true);
+    for (int i = 0; i < ui->tabWidget->count(); ++i)
+        tabTitles.append(ui->tabWidget->tabText(i));
     manager.reloadAll();
 
     scriptWidget = new ScriptWidget(this);
     scriptWidget->setMinimumHeight(280);
-    ui->scriptsRightLayout->addWidget(scriptWidget);
-    updateFileList();
-
-    mesWidget = new MesWidget(this, QCoreApplication::translate("MesWidget", "UTF-8"));
-    ui->mesLayout->addWidget(mesWidget);
-
+    addPage(scriptWidget, ui->scriptsRightLayout, ui->tabWidget->indexOf(ui->tabScripts));
+    mesWidget = new MesWidget(this);
+    addPage(mesWidget, ui->mesLayout, ui->tabWidget->indexOf(ui->tabMes));
     dialogueWidget = new DialogueEditWidget(this);
-    ui->dialogueLayout->addWidget(dialogueWidget);
-
+    addPage(dialogueWidget, ui->dialogueLayout, ui->tabWidget->indexOf(ui->tabDialogue));
     createArtTree();
     artWidget = new ArtWidget(this);
-    ui->artLayout->addWidget(artWidget);
+    addPage(artWidget, ui->artLayout, ui->tabWidget->indexOf(ui->tabArt));
     protoWidget = new ProtoWidget(this);
-    ui->protoLayout->addWidget(protoWidget);
+    addPage(protoWidget, ui->protoLayout, ui->tabWidget->indexOf(ui->tabProto));
+
+    createActions();
+    createMenus();
+    addFilterBoxes();
+    updateFileList();
+    setStartFolders();
+    connect(ui->tabWidget, &QTabWidget::currentChanged, this, [this] { updateMarks(); });
+    connect(watcher, &DiskWatcher::changedOnDisk, this, &MainWindow::reloadChanged);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+        if (!settleAll())
+            session.cancel();
+    });
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, &MainWindow::keepRecoveryCopies);
+    timer->start(RECOVERY_INTERVAL_MS);
+    restoreSettings();
+    updateMarks();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // Documents go with their pages; the group must not hold their stacks by then.
+    for (Page* page : pages)
+        disconnect(page, nullptr, this, nullptr);
+}
+
+void MainWindow::addPage(Page* page, QLayout* layout, int tab)
+{
+    auto* box = new QWidget(this);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto* banner = new DamageBanner(box);
+    column->addWidget(banner);
+    column->addWidget(page, 1);
+    layout->addWidget(box);
+    pages.push_back(page);
+    pageTabs.push_back(tab);
+    banners.push_back(banner);
+    connect(page, &Page::documentReplaced, this, [this, page](Document* document) { documentReplaced(page, document); });
+}
+
+// ---- actions and menus ----
+
+void MainWindow::createActions()
+{
+    actionOpen = new QAction(tr("&Open…"), this);
+    actionOpen->setShortcut(QKeySequence::Open);
+    connect(actionOpen, &QAction::triggered, this, [this] { currentPage() ? currentPage()->browse() : void(); });
+    actionSave = new QAction(tr("&Save"), this);
+    actionSave->setShortcut(QKeySequence::Save);
+    connect(actionSave, &QAction::triggered, this, [this] { currentPage() ? void(currentPage()->save()) : void(); });
+    actionSaveAs = new QAction(tr("Save &As…"), this);
+    actionSaveAs->setShortcut(QKeySequence::SaveAs);
+    connect(actionSaveAs, &QAction::triggered, this, [this] { currentPage() ? void(currentPage()->saveAs()) : void(); });
+    actionQuit = new QAction(tr("&Quit"), this);
+    actionQuit->setShortcut(QKeySequence::Quit);
+    connect(actionQuit, &QAction::triggered, this, &MainWindow::on_actionExit_triggered);
+    actionFind = new QAction(tr("&Find file"), this);
+    actionFind->setShortcut(QKeySequence::Find);
+    connect(actionFind, &QAction::triggered, this, [this] {
+        QLineEdit* box = filters.at(size_t(ui->tabWidget->currentIndex()));
+        if (box) {
+            box->setFocus();
+            box->selectAll();
+        }
+    });
+    actionRefresh = new QAction(tr("&Rescan files"), this);
+    actionRefresh->setShortcut(QKeySequence::Refresh);
+    connect(actionRefresh, &QAction::triggered, this, [this] {
+        manager.reloadAll();
+        updateFileList();
+        statusBar()->showMessage(tr("File lists rescanned"), 3000);
+    });
+    ui->actionExit->setShortcut(QKeySequence(QStringLiteral("Ctrl+X")));
+    ui->actionExit->setShortcutContext(Qt::WindowShortcut);
+}
+
+void MainWindow::createMenus()
+{
+    menuBar()->clear();
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addActions({actionOpen, actionSave, actionSaveAs});
+    file->addSeparator();
+    file->addAction(ui->actionConfigure);
+    file->addSeparator();
+    file->addActions({ui->actionExit, actionQuit});
+
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    QAction* undoAction = undo->createUndoAction(this, tr("&Undo"));
+    undoAction->setShortcut(QKeySequence::Undo);
+    undoAction->setObjectName(QStringLiteral("actionUndo"));
+    QAction* redoAction = undo->createRedoAction(this, tr("&Redo"));
+    redoAction->setShortcut(QKeySequence::Redo);
+    redoAction->setObjectName(QStringLiteral("actionRedo"));
+    edit->addActions({undoAction, redoAction});
+    edit->addSeparator();
+    edit->addActions({actionFind, actionRefresh});
+
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    auto* dock = new QDockWidget(tr("Undo history"), this);
+    dock->setObjectName(QStringLiteral("undoHistoryDock"));
+    undoView = new QUndoView(undo, dock);
+    undoView->setEmptyLabel(tr("<file as opened>"));
+    dock->setWidget(undoView);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    actionHistory = dock->toggleViewAction();
+    actionHistory->setText(tr("Undo &history"));
+    actionHistory->setShortcut(QKeySequence(QStringLiteral("Ctrl+H")));
+    view->addAction(actionHistory);
+
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(ui->actionAbout);
+
+    actionOpen->setObjectName(QStringLiteral("actionOpen"));
+    actionSave->setObjectName(QStringLiteral("actionSave"));
+    actionSaveAs->setObjectName(QStringLiteral("actionSaveAs"));
+    actionQuit->setObjectName(QStringLiteral("actionQuit"));
+    actionFind->setObjectName(QStringLiteral("actionFind"));
+    actionRefresh->setObjectName(QStringLiteral("actionRefresh"));
+    for (QAction* action : findChildren<QAction*>()) {
+        action->setToolTip(withKey(action->text().remove(QLatin1Char('&')), action->shortcut()));
+        addAction(action);
+    }
+    // Undo and redo rename themselves after the command on top; their tool tips follow.
+    for (QAction* action : {undoAction, redoAction})
+        connect(action, &QAction::changed, action, [action] {
+            const QString tip = withKey(action->text().remove(QLatin1Char('&')), action->shortcut());
+            if (action->toolTip() != tip)
+                action->setToolTip(tip);
+        });
+}
+
+// ---- file lists ----
+
+void MainWindow::addFilterBoxes()
+{
+    const std::vector<QWidget*> views = {ui->listScripts, ui->treeMes, nullptr, ui->artTree, ui->protoList};
+    for (size_t i = 0; i < pages.size(); ++i) {
+        QWidget* view = views.at(i);
+        if (view == nullptr) {
+            filters.push_back(nullptr);
+            continue;
+        }
+        auto* box = new QLineEdit(this);
+        box->setObjectName(QStringLiteral("fileFilter%1").arg(i));
+        box->setPlaceholderText(tr("Filter files (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+        box->setClearButtonEnabled(true);
+        box->setMaximumWidth(view->maximumWidth());
+        QLayout* layout = view->parentWidget()->layout();
+        QWidget* column = new QWidget(this);
+        auto* columnLayout = new QVBoxLayout(column);
+        columnLayout->setContentsMargins(0, 0, 0, 0);
+        layout->replaceWidget(view, column);
+        columnLayout->addWidget(box);
+        columnLayout->addWidget(view, 1);
+        column->setMaximumWidth(view->maximumWidth());
+        connect(box, &QLineEdit::textChanged, this, [this, view](const QString& text) { applyFilter(view, text); });
+        filters.push_back(box);
+    }
+}
+
+void MainWindow::applyFilter(QWidget* view, const QString& text)
+{
+    const auto hides = [&text](const QString& name) { return !name.contains(text, Qt::CaseInsensitive); };
+    if (auto* list = qobject_cast<QListWidget*>(view)) {
+        for (int i = 0; i < list->count(); ++i)
+            list->item(i)->setHidden(hides(list->item(i)->text()));
+    } else if (view == ui->treeMes) {
+        for (int top = 0; top < ui->treeMes->topLevelItemCount(); ++top) {
+            QTreeWidgetItem* group = ui->treeMes->topLevelItem(top);
+            for (int i = 0; i < group->childCount(); ++i)
+                group->child(i)->setHidden(hides(group->child(i)->text(0)));
+        }
+    } else if (view == ui->artTree) {
+        artModel->setNameFilterDisables(false);
+        artModel->setNameFilters(text.isEmpty() ? QStringList() : QStringList{QStringLiteral("*%1*").arg(text)});
+    }
+}
 
 void MainWindow::createArtTree()
 {
     artModel = new ArtModel(this);
-    const QString root = QDir::cleanPath(QDir::currentPath() + QLatin1Char('/') + arcanum::ART_DIR);
+    const QString root = QDir::cleanPath(manager.getBaseDirPath() + QLatin1Char('/') + arcanum::ART_DIR);
     artModel->setRootPath(root);
     artModel->sort(0);
     ui->artTree->setModel(artModel);
@@ -68,54 +279,56 @@ QString MainWindow::fullPath(const QString& subDir, const QString& name) const
 
 void MainWindow::updateFileList()
 {
+    reselecting = true;
     ui->listScripts->clear();
     ui->listScripts->addItems(manager.scripts);
-
     ui->treeMes->clear();
-    addToMesTable(QStringList(tr(MES_ITEM)), manager.messages);
-    addToMesTable(QStringList(tr(RULES_ITEM)), manager.rules);
-    addToMesTable(QStringList(tr(SEMES_ITEM)), manager.semes);
-    addToMesTable(QStringList(tr(OEMES_ITEM)), manager.oemes);
-    addToMesTable(QStringList(tr(DLG_ITEM)), manager.dialogues);
-
+    addToMesTable(tr("MES"), arcanum::MES_DIR, manager.messages);
+    addToMesTable(tr("RULES"), arcanum::RULES_DIR, manager.rules);
+    addToMesTable(tr("SEMES"), arcanum::SEMES_DIR, manager.semes);
+    addToMesTable(tr("OEMES"), arcanum::OEMES_DIR, manager.oemes);
+    addToMesTable(tr("DLG"), arcanum::DLG_DIR, manager.dialogues);
     ui->protoList->clear();
     ui->protoList->addItems(manager.prototypes);
+    reselecting = false;
+    for (QLineEdit* box : filters)
+        if (box != nullptr && !box->text().isEmpty())
+            emit box->textChanged(box->text());
 }
 
-void MainWindow::addToMesTable(QStringList header, QStringList& files)
+void MainWindow::addToMesTable(const QString& title, const QString& subDir, const QStringList& files)
 {
-    auto* top = new QTreeWidgetItem(header);
+    auto* top = new QTreeWidgetItem(QStringList(title));
+    top->setData(0, Qt::UserRole, subDir);
     for (const QString& name : files)
         top->addChild(new QTreeWidgetItem(QStringList(name)));
     ui->treeMes->addTopLevelItem(top);
     top->setExpanded(true);
 }
 
+void MainWindow::setStartFolders()
+{
+    const QStringList folders = {arcanum::SCRIPTS_DIR, arcanum::MES_DIR, arcanum::DLG_DIR, arcanum::ART_DIR,
+                                 arcanum::PROTO_DIR};
+    for (size_t i = 0; i < pages.size(); ++i)
+        pages[i]->setStartFolder(QDir::cleanPath(manager.getBaseDirPath() + QLatin1Char('/') + folders.at(int(i))));
+}
+
+// ---- opening files ----
+
 void MainWindow::on_listScripts_itemSelectionChanged()
 {
     const QListWidgetItem* item = ui->listScripts->currentItem();
-    if (!item)
-        return;
-    scriptWidget->loadScript(fullPath(arcanum::SCRIPTS_DIR, item->text()));
+    if (item && !reselecting)
+        openInPage(scriptWidget, fullPath(arcanum::SCRIPTS_DIR, item->text()));
 }
 
 void MainWindow::on_treeMes_currentItemChanged(QTreeWidgetItem* current, QTreeWidgetItem* /*previous*/)
 {
-    if (!current || !current->parent() || current->childCount() > 0)
+    if (!current || !current->parent() || current->childCount() > 0 || reselecting)
         return;
-    const QString category = current->parent()->text(0);
-    QString subDir;
-    if (category == tr(MES_ITEM))
-        subDir = arcanum::MES_DIR;
-    else if (category == tr(RULES_ITEM))
-        subDir = arcanum::RULES_DIR;
-    else if (category == tr(SEMES_ITEM))
-        subDir = arcanum::SEMES_DIR;
-    else if (category == tr(OEMES_ITEM))
-        subDir = arcanum::OEMES_DIR;
-    else if (category == tr(DLG_ITEM))
-        subDir = arcanum::DLG_DIR;
-    mesWidget->loadMes(fullPath(subDir, current->text(0)));
+    const QString subDir = current->parent()->data(0, Qt::UserRole).toString();
+    openInPage(mesWidget, fullPath(subDir, current->text(0)));
 }
 
 void MainWindow::on_artTree_activated(QModelIndex index)
@@ -126,26 +339,286 @@ void MainWindow::on_artTree_activated(QModelIndex index)
     const QFileInfo info = model->fileInfo(index);
     if (info.isDir() || info.suffix().toUpper() != QLatin1String("ART"))
         return;
-    artWidget->loadArt(QFile::encodeName(QDir::cleanPath(info.filePath())).toStdString());
+    openInPage(artWidget, QDir::cleanPath(info.filePath()));
 }
 
 void MainWindow::on_protoList_itemSelectionChanged()
 {
     const QListWidgetItem* item = ui->protoList->currentItem();
-    if (!item)
+    if (item && !reselecting)
+        openInPage(protoWidget, fullPath(arcanum::PROTO_DIR, item->text()));
+}
+
+bool MainWindow::openInPage(Page* page, const QString& path)
+{
+    if (page->document() != nullptr && QFileInfo(page->document()->path()) == QFileInfo(path))
+        return true;
+    const bool opened = page->openFile(path);
+    if (!opened) {
+        // The list goes back to the file the page still shows.
+        reselecting = true;
+        const QString shown = page->document() ? QFileInfo(page->document()->path()).fileName() : QString();
+        for (QListWidget* list : {ui->listScripts, ui->protoList}) {
+            const auto found = list->findItems(shown, Qt::MatchExactly);
+            if (page == (list == ui->listScripts ? static_cast<Page*>(scriptWidget) : protoWidget))
+                list->setCurrentItem(found.isEmpty() ? nullptr : found.first());
+        }
+        reselecting = false;
+    }
+    return opened;
+}
+
+Page* MainWindow::pageFor(const QString& path) const
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    for (Page* page : pages)
+        if (page->suffixes().contains(suffix))
+            return page;
+    return nullptr;
+}
+
+void MainWindow::openFiles(const QStringList& paths)
+{
+    QStringList refused;
+    for (const QString& path : paths) {
+        Page* page = pageFor(path);
+        if (page == nullptr) {
+            refused.append(tr("%1: not a file qtLoreka edits (.mes, .dlg, .scr, .art, .pro)")
+                               .arg(QDir::toNativeSeparators(path)));
+            continue;
+        }
+        ui->tabWidget->setCurrentIndex(pageTabs.at(size_t(std::find(pages.begin(), pages.end(), page) - pages.begin())));
+        if (!QFileInfo(path).isFile()) {
+            refused.append(tr("%1: no such file").arg(QDir::toNativeSeparators(path)));
+            continue;
+        }
+        openInPage(page, QFileInfo(path).absoluteFilePath());
+    }
+    if (!refused.isEmpty())
+        Prompt::message(this, QMessageBox::Warning, tr("Cannot open"), refused.join(QLatin1Char('\n')));
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    event->acceptProposedAction();
+    openFiles(paths);
+}
+
+// ---- documents ----
+
+Page* MainWindow::currentPage() const
+{
+    const int tab = ui->tabWidget->currentIndex();
+    for (size_t i = 0; i < pages.size(); ++i)
+        if (pageTabs[i] == tab)
+            return pages[i];
+    return nullptr;
+}
+
+void MainWindow::documentReplaced(Page* page, Document* document)
+{
+    const size_t index = size_t(std::find(pages.begin(), pages.end(), page) - pages.begin());
+    DamageBanner* banner = banners.at(index);
+    banner->showDamageOf(document);
+    if (document != nullptr) {
+        undo->addStack(document->undoStack());
+        connect(document, &Document::modifiedChanged, this, &MainWindow::updateMarks);
+        connect(document, &Document::pathChanged, this, [this] {
+            updateMarks();
+            rewatch();
+        });
+        connect(document, &Document::saved, this, [this](const QString& path) {
+            watcher->savedByUs(path);
+            recoveryStore->drop(path);
+        });
+        connect(document, &Document::changed, banner, [banner, document] { banner->showDamageOf(document); });
+    }
+    rewatch();
+    updateMarks();
+}
+
+void MainWindow::updateMarks()
+{
+    for (size_t i = 0; i < pages.size(); ++i) {
+        const Document* document = pages[i]->document();
+        const bool modified = document != nullptr && document->isModified();
+        ui->tabWidget->setTabText(pageTabs[i], tabTitles.at(pageTabs[i]) + (modified ? QStringLiteral(" *") : QString()));
+    }
+    Page* page = currentPage();
+    Document* document = page ? page->document() : nullptr;
+    undo->setActiveStack(document ? document->undoStack() : nullptr);
+    setWindowTitle(document ? tr("%1[*] — qtLoreka").arg(document->displayName()) : tr("qtLoreka"));
+    setWindowModified(document != nullptr && document->isModified());
+    const bool open = document != nullptr;
+    actionSave->setEnabled(open);
+    actionSaveAs->setEnabled(open);
+}
+
+bool MainWindow::settleAll()
+{
+    for (size_t i = 0; i < pages.size(); ++i) {
+        Page* page = pages[i];
+        if (page->document() == nullptr || !page->document()->isModified())
+            continue;
+        ui->tabWidget->setCurrentIndex(pageTabs[i]);
+        if (!SaveGuard::settle(this, page->document(), page->fileFilter()))
+            return false;
+    }
+    return true;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!settleAll()) {
+        event->ignore();
         return;
-    protoWidget->loadProto(QFile::encodeName(fullPath(arcanum::PROTO_DIR, item->text())).toStdString());
+    }
+    storeSettings();
+    recoveryStore->clear();
+    event->accept();
+}
+
+// ---- files changed on disk ----
+
+void MainWindow::rewatch()
+{
+    QStringList paths;
+    for (Page* page : pages)
+        if (page->document() != nullptr)
+            paths.append(page->document()->path());
+    watcher->watch(paths);
+}
+
+void MainWindow::reloadChanged(const QString& path)
+{
+    for (Page* page : pages) {
+        Document* document = page->document();
+        if (document == nullptr || document->path() != path)
+            continue;
+        if (document->isModified()
+            && Prompt::question(this, tr("File changed on disk"),
+                                tr("%1 changed on disk. Reload and lose your changes?").arg(document->displayName()),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+                   != QMessageBox::Yes)
+            return;
+        QString error;
+        std::unique_ptr<Document> fresh = page->load(path, error);
+        if (!fresh) {
+            statusBar()->showMessage(tr("%1 changed on disk and could not be read: %2").arg(document->displayName(), error));
+            return;
+        }
+        page->setDocument(std::move(fresh));
+        statusBar()->showMessage(tr("%1 was reloaded: it changed on disk").arg(QFileInfo(path).fileName()), 5000);
+        return;
+    }
+}
+
+// ---- recovery ----
+
+void MainWindow::keepRecoveryCopies()
+{
+    for (Page* page : pages) {
+        Document* document = page->document();
+        if (document == nullptr || !document->isModified())
+            continue;
+        QByteArray bytes;
+        QString error;
+        if (document->serialize(bytes, error))
+            recoveryStore->keep(document->path(), bytes);
+    }
+}
+
+void MainWindow::offerRecovery()
+{
+    const QList<RecoveryStore::Copy> copies = recoveryStore->copies();
+    if (copies.isEmpty())
+        return;
+    QStringList names;
+    for (const RecoveryStore::Copy& copy : copies)
+        names.append(QDir::toNativeSeparators(copy.original));
+    const auto answer = Prompt::question(
+        this, tr("Recover unsaved work"),
+        tr("qtLoreka did not close cleanly. Unsaved changes of these files were kept:\n%1\n\n"
+           "Restore them (they open modified, not saved) or discard them?")
+            .arg(names.join(QLatin1Char('\n'))),
+        QMessageBox::Yes | QMessageBox::Discard, QMessageBox::Yes);
+    if (answer == QMessageBox::Yes) {
+        for (const RecoveryStore::Copy& copy : copies) {
+            Page* page = pageFor(copy.original);
+            QString error;
+            std::unique_ptr<Document> document = page ? page->load(copy.bytesPath, error) : nullptr;
+            if (!document || !SaveGuard::settle(this, page->document(), page->fileFilter()))
+                continue;
+            document->setPath(copy.original);
+            document->markUnsaved();
+            page->setDocument(std::move(document));
+        }
+    }
+    recoveryStore->clear();
+    keepRecoveryCopies();
+}
+
+// ---- settings ----
+
+void MainWindow::restoreSettings()
+{
+    QSettings* settings = gui::getSettings();
+    restoreGeometry(settings->value(KEY_GEOMETRY).toByteArray());
+    restoreState(settings->value(KEY_STATE).toByteArray());
+    ui->tabWidget->setCurrentIndex(settings->value(KEY_TAB, 0).toInt());
+    for (QSplitter* splitter : findChildren<QSplitter*>())
+        if (!splitter->objectName().isEmpty())
+            splitter->restoreState(settings->value(QLatin1String(KEY_SPLITTERS) + splitter->objectName()).toByteArray());
+}
+
+void MainWindow::storeSettings()
+{
+    QSettings* settings = gui::getSettings();
+    settings->setValue(KEY_GEOMETRY, saveGeometry());
+    settings->setValue(KEY_STATE, saveState());
+    settings->setValue(KEY_TAB, ui->tabWidget->currentIndex());
+    for (QSplitter* splitter : findChildren<QSplitter*>())
+        if (!splitter->objectName().isEmpty())
+            settings->setValue(QLatin1String(KEY_SPLITTERS) + splitter->objectName(), splitter->saveState());
+    settings->sync();
+}
+
+// ---- window actions ----
+
+bool MainWindow::changeBaseDir(const QString& path)
+{
+    if (QFileInfo(path).absoluteFilePath() == QFileInfo(manager.getBaseDirPath()).absoluteFilePath())
+        return true;
+    if (!QFileInfo(path).isDir() || !settleAll())
+        return false;
+    manager.setBaseDir(path);
+    gui::setBaseDir(QDir(manager.getBaseDirPath()));
+    for (Page* page : pages)
+        page->setDocument(nullptr);
+    manager.reloadAll();
+    updateFileList();
+    setStartFolders();
+    const QString root = QDir::cleanPath(manager.getBaseDirPath() + QLatin1Char('/') + arcanum::ART_DIR);
+    artModel->setRootPath(root);
+    ui->artTree->setRootIndex(artModel->index(root));
+    return true;
 }
 
 void MainWindow::on_actionConfigure_triggered()
 {
-    const QString before = manager.getBaseDirPath();
-    DialogOptions dialog(this, &manager);
-    Prompt::run(dialog);
-    if (manager.getBaseDirPath() != before) {
-        manager.reloadAll();
-        updateFileList();
-    }
+    DialogOptions dialog(this, manager.getBaseDirPath());
+    if (Prompt::run(dialog) == QDialog::Accepted)
+        changeBaseDir(dialog.baseDir());
 }
 
 void MainWindow::on_actionAbout_triggered()
@@ -154,7 +627,28 @@ void MainWindow::on_actionAbout_triggered()
     Prompt::run(dialog);
 }
 
+bool MainWindow::cutInTextField()
+{
+    QWidget* focus = QApplication::focusWidget();
+    if (auto* line = qobject_cast<QLineEdit*>(focus); line && !line->isReadOnly()) {
+        line->cut();
+        return true;
+    }
+    if (auto* text = qobject_cast<QTextEdit*>(focus); text && !text->isReadOnly()) {
+        text->cut();
+        return true;
+    }
+    if (auto* plain = qobject_cast<QPlainTextEdit*>(focus); plain && !plain->isReadOnly()) {
+        plain->cut();
+        return true;
+    }
+    return false;
+}
+
 void MainWindow::on_actionExit_triggered()
 {
+    // Ctrl+X is Cut wherever text can be cut; only elsewhere is it the documented Exit.
+    if (sender() == ui->actionExit && cutInTextField())
+        return;
     close();
 }

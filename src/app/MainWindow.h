@@ -7,17 +7,29 @@
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
+class ArtModel;
+class DamageBanner;
+class DiskWatcher;
+class Document;
+class Page;
+class QAction;
+class QLineEdit;
 class QTreeWidgetItem;
+class QUndoGroup;
+class QUndoView;
+class RecoveryStore;
 class Ui_MainWindowClass;
 class ScriptWidget;
 class MesWidget;
 class DialogueEditWidget;
 class ArtWidget;
 class ProtoWidget;
-class ArtModel;
 
-// The five editor tabs and the file lists that feed them; reads no data file itself.
+// The window: the file lists, the five pages and everything that handles their documents — the undo
+// group, the "Save changes?" guard before work could be lost, the title and tab marks, files changed
+// on disk, recovery copies and opening files from outside. Knows pages only through Page.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -26,8 +38,15 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    // Opens each file in the page of its kind; says which could not be opened.
+    void openFiles(const QStringList& paths);
+    // Offers the copies a crash left behind (called once the window is shown).
+    void offerRecovery();
+    // Writes a recovery copy of every modified document now (the timer calls it every 30 s).
+    void keepRecoveryCopies();
+    // Asks about every modified document; false when the user cancelled or a save failed.
+    bool settleAll();
     void updateFileList();
-    void addToMesTable(QStringList header, QStringList& files);
 
     arcanum::Manager& getManager() { return manager; }
     ScriptWidget* scriptPage() const { return scriptWidget; }
@@ -35,6 +54,16 @@ public:
     DialogueEditWidget* dialoguePage() const { return dialogueWidget; }
     ArtWidget* artPage() const { return artWidget; }
     ProtoWidget* protoPage() const { return protoWidget; }
+    const std::vector<Page*>& allPages() const { return pages; }
+    QUndoGroup* undoGroup() const { return undo; }
+    RecoveryStore& recovery() { return *recoveryStore; }
+    // Changes the base directory after settling every modified document; false when cancelled.
+    bool changeBaseDir(const QString& path);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private slots:
     void on_listScripts_itemSelectionChanged();
@@ -46,8 +75,25 @@ private slots:
     void on_actionExit_triggered();
 
 private:
-    QString fullPath(const QString& subDir, const QString& name) const;
+    void addPage(Page* page, QLayout* layout, int tab);
+    void createActions();
+    void createMenus();
+    void addFilterBoxes();
     void createArtTree();
+    QString fullPath(const QString& subDir, const QString& name) const;
+    void addToMesTable(const QString& title, const QString& subDir, const QStringList& files);
+    void applyFilter(QWidget* view, const QString& text);
+    Page* currentPage() const;
+    Page* pageFor(const QString& path) const;
+    bool openInPage(Page* page, const QString& path);
+    void documentReplaced(Page* page, Document* document);
+    void updateMarks();
+    void rewatch();
+    void reloadChanged(const QString& path);
+    void restoreSettings();
+    void storeSettings();
+    void setStartFolders();
+    bool cutInTextField();
 
     std::unique_ptr<Ui_MainWindowClass> ui;
     ScriptWidget* scriptWidget = nullptr;
@@ -55,7 +101,24 @@ private:
     DialogueEditWidget* dialogueWidget = nullptr;
     ArtWidget* artWidget = nullptr;
     ProtoWidget* protoWidget = nullptr;
+    std::vector<Page*> pages;
+    std::vector<int> pageTabs;
+    std::vector<DamageBanner*> banners;
+    QStringList tabTitles;
     arcanum::Manager manager;
-    // Lives with the window; the art tree is rooted at the working directory, not the base directory.
     ArtModel* artModel = nullptr;
+    QUndoGroup* undo = nullptr;
+    QUndoView* undoView = nullptr;
+    DiskWatcher* watcher = nullptr;
+    std::unique_ptr<RecoveryStore> recoveryStore;
+    std::vector<QLineEdit*> filters;
+    QAction* actionSave = nullptr;
+    QAction* actionSaveAs = nullptr;
+    QAction* actionOpen = nullptr;
+    QAction* actionQuit = nullptr;
+    QAction* actionFind = nullptr;
+    QAction* actionRefresh = nullptr;
+    QAction* actionHistory = nullptr;
+    // Set while a list is put back on the file its page still shows, so that is not an open.
+    bool reselecting = false;
 };

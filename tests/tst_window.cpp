@@ -1,0 +1,345 @@
+// The window's handling of documents: the guard before work could be lost, marks, undo actions,
+// files from outside, files changed on disk and recovery copies. Every check looks at the file on disk.
+#include "MainWindow.h"
+#include "CurrentDirGuard.h"
+#include "Document.h"
+#include "MesWidget.h"
+#include "Page.h"
+#include "RecoveryStore.h"
+#include "ScriptWidget.h"
+#include "ScriptedAnswerer.h"
+#include "gui.h"
+
+#include <QAction>
+#include <QDirIterator>
+#include <QListWidget>
+#include <QMimeData>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QUndoStack>
+#include <QtTest>
+
+namespace {
+
+const QString ITEMS = QStringLiteral("/data/mes/sample_items.mes");
+const QString RULES = QStringLiteral("/data/rules/sample_rules.mes");
+
+// A copy of the sample game in a scratch folder, set as the base directory for the scope.
+class ScratchGame
+{
+public:
+    ScratchGame()
+    {
+        const QString source = QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game");
+        QDirIterator it(source, QDir::Files, QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            const QString from = it.next();
+            const QString to = dir.path() + from.mid(source.size());
+            QDir().mkpath(QFileInfo(to).absolutePath());
+            QFile::copy(from, to);
+        }
+        gui::setBaseDir(QDir(dir.path()));
+    }
+    ~ScratchGame() { gui::settings.remove(QStringLiteral("Directories")); }
+
+    QString path(const QString& relative) const { return dir.path() + relative; }
+    QByteArray bytes(const QString& relative) const
+    {
+        QFile file(path(relative));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private:
+    QTemporaryDir dir;
+};
+
+// Changes the text of the first entry through the page's own table, as typing into the cell would.
+void editFirstEntry(MainWindow& window, const QString& suffix = QStringLiteral(" (edited)"))
+{
+    auto* view = window.mesPage()->findChild<QTableView*>();
+    QVERIFY(view);
+    QAbstractItemModel* model = view->model();
+    const QModelIndex cell = model->index(0, model->columnCount() - 1);
+    QVERIFY(model->flags(cell) & Qt::ItemIsEditable);
+    QVERIFY(model->setData(cell, model->data(cell).toString() + suffix));
+    QVERIFY(window.mesPage()->document()->isModified());
+}
+
+void openItems(MainWindow& window, const ScratchGame& game)
+{
+    window.openFiles({game.path(ITEMS)});
+    QVERIFY(window.mesPage()->document());
+    QCOMPARE(window.mesPage()->document()->path(), game.path(ITEMS));
+}
+
+} // namespace
+
+class TestWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void closeAsks_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("failSave");
+        QTest::addColumn<bool>("closes");
+        QTest::addColumn<bool>("written");
+        QTest::newRow("save") << int(QMessageBox::Save) << false << true << true;
+        QTest::newRow("discard") << int(QMessageBox::Discard) << false << true << false;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false << false;
+        QTest::newRow("failing save") << int(QMessageBox::Save) << true << false << false;
+    }
+
+    void closeAsks()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, failSave);
+        QFETCH(bool, closes);
+        QFETCH(bool, written);
+        ScratchGame game;
+        const QByteArray original = game.bytes(ITEMS);
+        MainWindow window;
+        window.show();
+        openItems(window, game);
+        editFirstEntry(window);
+        if (failSave) // the save's temporary file cannot be made in a folder that is now a file
+            QVERIFY(QDir(game.path(QStringLiteral("/data/mes"))).removeRecursively()
+                    && QFile(game.path(QStringLiteral("/data/mes"))).open(QIODevice::WriteOnly));
+        ScriptedAnswerer answers;
+        answers.buttons.enqueue(QMessageBox::StandardButton(answer));
+        QCOMPARE(window.close(), closes);
+        QCOMPARE(answers.last(QStringLiteral("question"))->text, QStringLiteral("Save changes to sample_items.mes?"));
+        if (failSave) {
+            QVERIFY(answers.last(QStringLiteral("message"))->text.startsWith(QStringLiteral("Could not save")));
+            QVERIFY(window.mesPage()->document()->isModified());
+            return;
+        }
+        QCOMPARE(game.bytes(ITEMS) != original, written);
+        QCOMPARE(window.mesPage()->document()->isModified(), answer != QMessageBox::Save);
+    }
+
+    void switchingFilesAsks_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<bool>("written");
+        QTest::newRow("save") << int(QMessageBox::Save) << RULES << true;
+        QTest::newRow("discard") << int(QMessageBox::Discard) << RULES << false;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << ITEMS << false;
+    }
+
+    void switchingFilesAsks()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, shown);
+        QFETCH(bool, written);
+        ScratchGame game;
+        const QByteArray original = game.bytes(ITEMS);
+        MainWindow window;
+        openItems(window, game);
+        editFirstEntry(window);
+        ScriptedAnswerer answers;
+        answers.buttons.enqueue(QMessageBox::StandardButton(answer));
+        auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
+        tree->setCurrentItem(tree->topLevelItem(1)->child(0)); // RULES › sample_rules.mes
+        QCOMPARE(answers.count(QStringLiteral("question")), 1);
+        QCOMPARE(window.mesPage()->document()->path(), game.path(shown));
+        QCOMPARE(game.bytes(ITEMS) != original, written);
+        if (answer == QMessageBox::Cancel)
+            QVERIFY(window.mesPage()->document()->isModified());
+    }
+
+    void baseDirectoryChangeAsks_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("changes");
+        QTest::newRow("save") << int(QMessageBox::Save) << true;
+        QTest::newRow("discard") << int(QMessageBox::Discard) << true;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false;
+    }
+
+    void baseDirectoryChangeAsks()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, changes);
+        ScratchGame game;
+        QTemporaryDir other;
+        MainWindow window;
+        const QString before = window.getManager().getBaseDirPath();
+        openItems(window, game);
+        editFirstEntry(window);
+        ScriptedAnswerer answers;
+        answers.buttons.enqueue(QMessageBox::StandardButton(answer));
+        QCOMPARE(window.changeBaseDir(other.path()), changes);
+        QCOMPARE(window.getManager().getBaseDirPath() != before, changes);
+        QCOMPARE(window.mesPage()->document() == nullptr, changes);
+    }
+
+    void cancelledOptionsKeepTheDirectory()
+    {
+        ScratchGame game;
+        QTemporaryDir other;
+        MainWindow window;
+        const QString before = window.getManager().getBaseDirPath();
+        ScriptedAnswerer answers;
+        const QString target = other.path();
+        answers.dialogs.enqueue([target](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>(QStringLiteral("baseDirLineEdit"))->setText(target);
+            return int(QDialog::Rejected);
+        });
+        window.findChild<QAction*>(QStringLiteral("actionConfigure"))->trigger();
+        QCOMPARE(window.getManager().getBaseDirPath(), before);
+    }
+
+    void marksAndUndoFollowTheStack()
+    {
+        ScratchGame game;
+        MainWindow window;
+        openItems(window, game);
+        auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("sample_items.mes[*] — qtLoreka"));
+        QVERIFY(!window.isWindowModified());
+        editFirstEntry(window);
+        QVERIFY(window.isWindowModified());
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), QStringLiteral("Mes *"));
+        auto* undo = window.findChild<QAction*>(QStringLiteral("actionUndo"));
+        QVERIFY(undo->isEnabled());
+        QVERIFY(undo->text().startsWith(QStringLiteral("Undo ")));
+        undo->trigger();
+        QVERIFY(!window.isWindowModified());
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), QStringLiteral("Mes"));
+        QVERIFY(window.findChild<QAction*>(QStringLiteral("actionRedo"))->isEnabled());
+    }
+
+    void standardKeys()
+    {
+        MainWindow window;
+        const QList<QPair<QString, QKeySequence>> keys = {
+            {QStringLiteral("actionSave"), QKeySequence(QKeySequence::Save)},
+            {QStringLiteral("actionOpen"), QKeySequence(QKeySequence::Open)},
+            {QStringLiteral("actionQuit"), QKeySequence(QKeySequence::Quit)},
+            {QStringLiteral("actionExit"), QKeySequence(QStringLiteral("Ctrl+X"))},
+            {QStringLiteral("actionUndo"), QKeySequence(QKeySequence::Undo)},
+            {QStringLiteral("actionFind"), QKeySequence(QKeySequence::Find)},
+            {QStringLiteral("actionRefresh"), QKeySequence(QKeySequence::Refresh)}};
+        for (const auto& [name, key] : keys) {
+            auto* action = window.findChild<QAction*>(name);
+            QVERIFY2(action, qPrintable(name));
+            QCOMPARE(action->shortcut(), key);
+            QVERIFY2(action->toolTip().contains(key.toString(QKeySequence::NativeText)), qPrintable(action->toolTip()));
+        }
+    }
+
+    void ctrlXCutsInTextAndQuitsElsewhere()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        openItems(window, game);
+        editFirstEntry(window);
+        auto* filter = window.findChild<QLineEdit*>(QStringLiteral("fileFilter1"));
+        filter->setText(QStringLiteral("items"));
+        filter->setFocus();
+        filter->selectAll();
+        ScriptedAnswerer answers;
+        answers.buttons.enqueue(QMessageBox::Cancel);
+        QTest::keyClick(filter, Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(answers.count(QStringLiteral("question")), 0);
+        QVERIFY(filter->text().isEmpty());
+        window.findChild<QTreeWidget*>(QStringLiteral("treeMes"))->setFocus();
+        QTest::keyClick(window.findChild<QTreeWidget*>(QStringLiteral("treeMes")), Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(answers.count(QStringLiteral("question")), 1);
+        QVERIFY(window.isVisible());
+    }
+
+    void dropOpensInItsPage()
+    {
+        ScratchGame game;
+        MainWindow window;
+        QMimeData mime;
+        mime.setUrls({QUrl::fromLocalFile(game.path(QStringLiteral("/data/scr/00001gate_guard.scr"))),
+                      QUrl::fromLocalFile(game.path(QStringLiteral("/data/art/sample_frost.aap")))});
+        ScriptedAnswerer answers;
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &drop);
+        QVERIFY(window.scriptPage()->document());
+        QCOMPARE(window.scriptPage()->document()->path(), game.path(QStringLiteral("/data/scr/00001gate_guard.scr")));
+        QVERIFY(answers.last(QStringLiteral("message"))->text.contains(QStringLiteral("sample_frost.aap")));
+    }
+
+    void changedOnDisk()
+    {
+        ScratchGame game;
+        MainWindow window;
+        openItems(window, game);
+        const Document* first = window.mesPage()->document();
+        const auto rewrite = [&game](const QByteArray& bytes) {
+            QFile file(game.path(ITEMS));
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(bytes);
+        };
+        QTest::qWait(1100); // a new modification time
+        rewrite(game.bytes(ITEMS) + "{999}{Added outside}\r\n");
+        QTRY_VERIFY(window.mesPage()->document() != first);
+        QVERIFY(!window.mesPage()->document()->isModified());
+
+        editFirstEntry(window);
+        ScriptedAnswerer answers;
+        answers.buttons.enqueue(QMessageBox::No);
+        const Document* edited = window.mesPage()->document();
+        QTest::qWait(1100);
+        rewrite(game.bytes(ITEMS) + "{1000}{Again}\r\n");
+        QTRY_COMPARE(answers.count(QStringLiteral("question")), 1);
+        QCOMPARE(answers.last(QStringLiteral("question"))->text,
+                 QStringLiteral("sample_items.mes changed on disk. Reload and lose your changes?"));
+        QCOMPARE(window.mesPage()->document(), edited);
+        QVERIFY(edited->isModified());
+
+        // Our own save is not a change on disk.
+        QString error;
+        QVERIFY(window.mesPage()->document()->save(game.path(ITEMS), error));
+        QTest::qWait(300);
+        QCOMPARE(answers.count(QStringLiteral("question")), 1);
+    }
+
+    void recoveryAfterACrash()
+    {
+        ScratchGame game;
+        const QByteArray original = game.bytes(ITEMS);
+        QByteArray edited;
+        {
+            auto* window = new MainWindow;
+            openItems(*window, game);
+            editFirstEntry(*window);
+            QString error;
+            QVERIFY(window->mesPage()->document()->serialize(edited, error));
+            window->keepRecoveryCopies();
+            QCOMPARE(window->recovery().copies().size(), 1);
+            delete window; // no close event: what a crash leaves behind
+        }
+        MainWindow window;
+        ScriptedAnswerer answers;
+        answers.buttons.enqueue(QMessageBox::Yes);
+        window.offerRecovery();
+        QVERIFY(answers.last(QStringLiteral("question"))->text.contains(QDir::toNativeSeparators(game.path(ITEMS))));
+        Document* restored = window.mesPage()->document();
+        QVERIFY(restored);
+        QCOMPARE(restored->path(), game.path(ITEMS));
+        QVERIFY(restored->isModified());
+        QByteArray bytes;
+        QString error;
+        QVERIFY(restored->serialize(bytes, error));
+        QCOMPARE(bytes, edited);
+        QCOMPARE(game.bytes(ITEMS), original);
+        answers.buttons.enqueue(QMessageBox::Discard);
+        QVERIFY(window.close());
+        QVERIFY(window.recovery().copies().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestWindow)
+#include "tst_window.moc"
