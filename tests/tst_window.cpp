@@ -152,6 +152,23 @@ private slots:
             QVERIFY(window.mesPage()->document()->isModified());
     }
 
+    void abandonSettingOffDropsWithoutAsking()
+    {
+        ScratchGame game;
+        const QByteArray original = game.bytes(ITEMS);
+        gui::setConfirms(QStringLiteral("mes"), gui::Confirmation::Abandon, false);
+        MainWindow window;
+        openItems(window, game);
+        editFirstEntry(window);
+        ScriptedAnswerer answers;
+        auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
+        tree->setCurrentItem(tree->topLevelItem(1)->child(0));
+        gui::setConfirms(QStringLiteral("mes"), gui::Confirmation::Abandon, true);
+        QCOMPARE(answers.count(QStringLiteral("question")), 0);
+        QCOMPARE(window.mesPage()->document()->path(), game.path(RULES));
+        QCOMPARE(game.bytes(ITEMS), original);
+    }
+
     void baseDirectoryChangeAsks_data()
     {
         QTest::addColumn<int>("answer");

@@ -3,7 +3,13 @@
 #include "Prompt.h"
 #include "ui_DialogOptions.h"
 
+#include "gui.h"
+
+#include <QCheckBox>
 #include <QEvent>
+
+#include <tuple>
+#include <vector>
 
 DialogOptions::DialogOptions(QWidget* parent, const QString& baseDir)
     : QDialog(parent)
@@ -11,6 +17,30 @@ DialogOptions::DialogOptions(QWidget* parent, const QString& baseDir)
 {
     ui->setupUi(this);
     ui->baseDirLineEdit->setText(baseDir);
+    forEachConfirmation([](QCheckBox* box, const QString& page, gui::Confirmation kind) {
+        box->setChecked(gui::confirms(page, kind));
+    });
+}
+
+template <typename Apply>
+void DialogOptions::forEachConfirmation(Apply apply) const
+{
+    const std::vector<std::tuple<QCheckBox*, QCheckBox*, QString>> groups = {
+        {ui->scriptConfirmOverwrite, ui->scriptConfirmAbandon, QStringLiteral("script")},
+        {ui->mesConfirmOverwrite, ui->mesConfirmAbandon, QStringLiteral("mes")},
+        {ui->artConfirmOverwrite, ui->artConfirmAbandon, QStringLiteral("art")},
+        {ui->protoConfirmOverwrite, ui->protoConfirmAbandon, QStringLiteral("proto")}};
+    for (const auto& [overwrite, abandon, page] : groups) {
+        apply(overwrite, page, gui::Confirmation::Overwrite);
+        apply(abandon, page, gui::Confirmation::Abandon);
+    }
+}
+
+void DialogOptions::storeConfirmations() const
+{
+    forEachConfirmation([](QCheckBox* box, const QString& page, gui::Confirmation kind) {
+        gui::setConfirms(page, kind, box->isChecked());
+    });
 }
 
 DialogOptions::~DialogOptions() = default;

@@ -18,6 +18,8 @@ public:
 
     // The directory chosen in the dialog (as typed or browsed).
     QString baseDir() const;
+    // Writes the per-page "Confirm overwrite" and "Confirm abandon" boxes to the settings.
+    void storeConfirmations() const;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -26,5 +28,8 @@ private slots:
     void on_baseDirBrowse_clicked();
 
 private:
+    template <typename Apply>
+    void forEachConfirmation(Apply apply) const;
+
     std::unique_ptr<Ui_DialogOptions> ui;
 };

@@ -69,6 +69,7 @@ MainWindow::MainWindow(QWidget* parent)
     for (int i = 0; i < ui->tabWidget->count(); ++i)
         tabTitles.append(ui->tabWidget->tabText(i));
     manager.reloadAll();
+    manager.reloadDlg();
 
     scriptWidget = new ScriptWidget(this);
     scriptWidget->setMinimumHeight(280);
@@ -88,6 +89,7 @@ MainWindow::MainWindow(QWidget* parent)
     addFilterBoxes();
     updateFileList();
     setStartFolders();
+    applyConfirmations();
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, [this] { updateMarks(); });
     connect(watcher, &DiskWatcher::changedOnDisk, this, &MainWindow::reloadChanged);
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
@@ -152,6 +154,7 @@ void MainWindow::createActions()
     actionRefresh->setShortcut(QKeySequence::Refresh);
     connect(actionRefresh, &QAction::triggered, this, [this] {
         manager.reloadAll();
+        manager.reloadDlg();
         updateFileList();
         statusBar()->showMessage(tr("File lists rescanned"), 3000);
     });
@@ -304,6 +307,19 @@ void MainWindow::addToMesTable(const QString& title, const QString& subDir, cons
         top->addChild(new QTreeWidgetItem(QStringList(name)));
     ui->treeMes->addTopLevelItem(top);
     top->setExpanded(true);
+}
+
+void MainWindow::applyConfirmations()
+{
+    // The dialogue page has no settings of its own: it always asks.
+    const std::vector<QString> keys = {QStringLiteral("script"), QStringLiteral("mes"), QString(),
+                                       QStringLiteral("art"), QStringLiteral("proto")};
+    for (size_t i = 0; i < pages.size(); ++i) {
+        if (keys.at(i).isEmpty())
+            continue;
+        pages[i]->setConfirmOverwrite(gui::confirms(keys.at(i), gui::Confirmation::Overwrite));
+        pages[i]->setConfirmAbandon(gui::confirms(keys.at(i), gui::Confirmation::Abandon));
+    }
 }
 
 void MainWindow::setStartFolders()
@@ -471,7 +487,7 @@ bool MainWindow::settleAll()
         if (page->document() == nullptr || !page->document()->isModified())
             continue;
         ui->tabWidget->setCurrentIndex(pageTabs[i]);
-        if (!SaveGuard::settle(this, page->document(), page->fileFilter()))
+        if (!page->settle())
             return false;
     }
     return true;
@@ -557,7 +573,7 @@ void MainWindow::offerRecovery()
             Page* page = pageFor(copy.original);
             QString error;
             std::unique_ptr<Document> document = page ? page->load(copy.bytesPath, error) : nullptr;
-            if (!document || !SaveGuard::settle(this, page->document(), page->fileFilter()))
+            if (!document || !page->settle())
                 continue;
             document->setPath(copy.original);
             document->markUnsaved();
@@ -606,6 +622,7 @@ bool MainWindow::changeBaseDir(const QString& path)
     for (Page* page : pages)
         page->setDocument(nullptr);
     manager.reloadAll();
+    manager.reloadDlg();
     updateFileList();
     setStartFolders();
     const QString root = QDir::cleanPath(manager.getBaseDirPath() + QLatin1Char('/') + arcanum::ART_DIR);
@@ -617,8 +634,11 @@ bool MainWindow::changeBaseDir(const QString& path)
 void MainWindow::on_actionConfigure_triggered()
 {
     DialogOptions dialog(this, manager.getBaseDirPath());
-    if (Prompt::run(dialog) == QDialog::Accepted)
-        changeBaseDir(dialog.baseDir());
+    if (Prompt::run(dialog) != QDialog::Accepted)
+        return;
+    dialog.storeConfirmations();
+    applyConfirmations();
+    changeBaseDir(dialog.baseDir());
 }
 
 void MainWindow::on_actionAbout_triggered()

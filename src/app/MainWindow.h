@@ -93,6 +93,7 @@ private:
     void restoreSettings();
     void storeSettings();
     void setStartFolders();
+    void applyConfirmations();
     bool cutInTextField();
 
     std::unique_ptr<Ui_MainWindowClass> ui;

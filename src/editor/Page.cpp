@@ -16,7 +16,7 @@ Page::~Page() = default;
 
 bool Page::openFile(const QString& path)
 {
-    if (!SaveGuard::settle(this, document(), fileFilter()))
+    if (!settle())
         return false;
     QString error;
     std::unique_ptr<Document> loaded = load(path, error);
@@ -27,6 +27,11 @@ bool Page::openFile(const QString& path)
     }
     setDocument(std::move(loaded));
     return true;
+}
+
+bool Page::settle()
+{
+    return !confirmAbandon || SaveGuard::settle(this, document(), fileFilter());
 }
 
 void Page::setDocument(std::unique_ptr<Document> document)

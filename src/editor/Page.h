@@ -41,6 +41,11 @@ public:
     void setStartFolder(const QString& folder) { startFolder = folder; }
     // Whether Save in place asks "Overwrite NAME?" first (on by default).
     void setConfirmOverwrite(bool confirm) { confirmOverwrite = confirm; }
+    // Whether unsaved changes are asked about before they would be dropped (on by default; off drops them).
+    void setConfirmAbandon(bool confirm) { confirmAbandon = confirm; }
+    // "Save changes to NAME?" for the shown document, as the abandon setting says: true when the work
+    // was saved, discarded or there was none; false when the user cancelled or the save failed.
+    bool settle();
 
 signals:
     // The page shows another document (or none); the window moves its undo group and marks.
@@ -56,4 +61,5 @@ private:
     std::unique_ptr<Document> shown;
     QString startFolder;
     bool confirmOverwrite = true;
+    bool confirmAbandon = true;
 };

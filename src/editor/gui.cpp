@@ -46,4 +46,22 @@ QFont getGenericFont()
     return QFont(family, height, -1, false);
 }
 
+namespace {
+QString confirmationKey(const QString& page, Confirmation kind)
+{
+    return QStringLiteral("Confirm/%1%2").arg(page, kind == Confirmation::Overwrite ? QLatin1String("Overwrite")
+                                                                                      : QLatin1String("Abandon"));
+}
+} // namespace
+
+bool confirms(const QString& page, Confirmation kind)
+{
+    return settings.value(confirmationKey(page, kind), true).toBool();
+}
+
+void setConfirms(const QString& page, Confirmation kind, bool on)
+{
+    settings.setValue(confirmationKey(page, kind), on);
+}
+
 } // namespace gui

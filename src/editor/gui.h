@@ -24,4 +24,9 @@ QDir getBaseDir();
 
 QFont getGenericFont();
 
+// The Options dialog's per-page questions (page: "script", "mes", "art", "proto"); both on by default.
+enum class Confirmation { Overwrite, Abandon };
+bool confirms(const QString& page, Confirmation kind);
+void setConfirms(const QString& page, Confirmation kind, bool on);
+
 } // namespace gui
