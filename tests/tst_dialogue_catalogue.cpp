@@ -1,6 +1,7 @@
 // The catalogue of dialogue opcodes: contents, identity, and how the row settings read a row.
 #include "DialogueCatalogue.h"
 #include "DialogueOpcodeSettings.h"
+#include "OpcodeWords.h"
 #include "TestOrResultForm.h"
 
 #include <QtTest>
@@ -69,6 +70,44 @@ class TestDialogueCatalogue : public QObject
     Q_OBJECT
 
 private slots:
+    void opcodesInWords_data()
+    {
+        QTest::addColumn<const void*>("type");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QStringList>("arguments");
+        using namespace arcanum::dlg;
+        QTest::newRow("gf test") << static_cast<const void*>(test::TEST_GLOBAL_FLAG) << "gf — global flag"
+                                 << QStringList{"flag", "value"};
+        QTest::newRow("$$ test") << static_cast<const void*>(test::TEST_MONEY) << "$$ — money" << QStringList{"value"};
+        QTest::newRow("tr test") << static_cast<const void*>(test::TEST_TRAINING_STATE) << "tr — training state"
+                                 << QStringList{"skill", "level"};
+        QTest::newRow("ta test") << static_cast<const void*>(test::TEST_TECH_APT) << "ta — tech aptitude"
+                                 << QStringList{"value"};
+        QTest::newRow("xp result") << static_cast<const void*>(result::RESULT_XP) << "xp — experience" << QStringList{};
+        QTest::newRow("jo result") << static_cast<const void*>(result::RESULT_JOIN_GROUP_TEST) << "jo — join group"
+                                   << QStringList{"line if yes", "line if no"};
+    }
+
+    void opcodesInWords()
+    {
+        QFETCH(const void*, type);
+        QFETCH(QString, label);
+        QFETCH(QStringList, arguments);
+        const auto* opcode = static_cast<const arcanum::dlg::TestOrResultType*>(type);
+        QCOMPARE(arcanum::dlg::OpcodeWords::label(opcode), label);
+        QCOMPARE(arcanum::dlg::OpcodeWords::argumentNames(opcode), arguments);
+    }
+
+    void everyOpcodeHasWordsForEachArgument()
+    {
+        using namespace arcanum::dlg;
+        for (const TestOrResultTypes* types : {&test::ALL_TESTS, &result::ALL_PC_RESULTS})
+            for (const TestOrResultType* type : *types) {
+                QVERIFY2(!OpcodeWords::meaning(type).isEmpty(), qPrintable(type->code()));
+                QCOMPARE(OpcodeWords::argumentNames(type).size(), int(type->argumentCount()));
+            }
+    }
+
     void isCompleteBeforeMain()
     {
         QCOMPARE(testsBeforeMain, 37);

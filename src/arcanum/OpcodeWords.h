@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace arcanum::dlg {
+
+class TestOrResultType;
+
+// What a dialogue opcode means in words, so a modder need not know the two-letter codes by heart:
+// "global flag" for gf, "money" for $$, made from the catalogue's constant names; and the name of each
+// argument ("flag", "value").
+class OpcodeWords
+{
+public:
+    // Empty for a type that is not in the catalogue.
+    static QString meaning(const TestOrResultType* type);
+    // One name per argument the game expects.
+    static QStringList argumentNames(const TestOrResultType* type);
+    // "gf — global flag".
+    static QString label(const TestOrResultType* type);
+};
+
+} // namespace arcanum::dlg
