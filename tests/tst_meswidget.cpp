@@ -1,17 +1,21 @@
-// The message editor page, driven offscreen: cells, the text box, the source line, reload and save.
+// The message editor page, driven offscreen: the table over the document, the text box, the source
+// line, undo of every edit, encodings that would damage a file, and the file on disk after each save.
+#include "Document.h"
 #include "FormatChecks.h"
+#include "MesDocument.h"
 #include "MesWidget.h"
 #include "ScriptedAnswerer.h"
+#include "UndoChecks.h"
 
 #include <QComboBox>
-#include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTextCodec>
+#include <QUndoStack>
+#include <QWheelEvent>
 #include <QtTest>
 
 #include <memory>
@@ -27,6 +31,11 @@ const QByteArray MESSAGES = QByteArrayLiteral("// Test items\r\n"
 const QByteArray DIALOGUE = QByteArrayLiteral("{1}{Hello.}{}{5}{}{10}{}\r\n"
                                               "{10}{Bye.}{1}{-3}{qu 5 2}{0}{} // last\r\n");
 
+QByteArray cp1251(const QString& text)
+{
+    return QTextCodec::codecForName("Windows-1251")->fromUnicode(text);
+}
+
 } // namespace
 
 class TestMesWidget : public QObject
@@ -39,7 +48,7 @@ private:
 
     QString path(const QString& name) const { return dir.filePath(name); }
 
-    template<typename T>
+    template <typename T>
     T* child(const char* name) const
     {
         T* widget = page->findChild<T*>(QString::fromLatin1(name));
@@ -48,337 +57,185 @@ private:
         return widget;
     }
 
-    QTableWidget* table() const { return child<QTableWidget>("table"); }
+    QTableView* table() const { return child<QTableView>("table"); }
+    QAbstractItemModel* model() const { return table()->model(); }
     QPlainTextEdit* itemView() const { return child<QPlainTextEdit>("itemView"); }
-    QLineEdit* completeLine() const { return child<QLineEdit>("completeLine"); }
-    QPushButton* button(const char* name) const { return child<QPushButton>(name); }
 
     QString open(const QString& name, const QByteArray& bytes)
     {
         FormatChecks::writeFile(path(name), bytes);
-        page->loadMes(path(name));
+        if (!page->openFile(path(name)))
+            qFatal("could not open %s", qPrintable(name));
         return path(name);
     }
 
-    void clickCell(int row, int column)
-    {
-        QTableWidgetItem* item = table()->item(row, column);
-        QVERIFY(item);
-        table()->scrollToItem(item);
-        QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, table()->visualItemRect(item).center());
-    }
-
-    // Types into the text box at its end, as a user who clicked there would.
-    void typeInItemView(const QString& text)
-    {
-        itemView()->moveCursor(QTextCursor::End);
-        QTest::keyClicks(itemView(), text);
-    }
+    void selectCell(int row, int column) { table()->setCurrentIndex(model()->index(row, column)); }
 
 private slots:
     void initTestCase() { QVERIFY(dir.isValid()); }
-
-    void init()
-    {
-        page = std::make_unique<MesWidget>(nullptr, QStringLiteral("UTF-8"));
-        page->resize(900, 600);
-        page->show();
-        QVERIFY(QTest::qWaitForWindowExposed(page.get()));
-    }
-
+    void init() { page = std::make_unique<MesWidget>(); }
     void cleanup() { page.reset(); }
 
-    void emptyPage()
+    void tableShowsTheDocument()
     {
-        QCOMPARE(page->windowTitle(), QStringLiteral("Form"));
-        for (const char* name : {"editCommentary", "table", "itemView", "completeLine", "encodingLabel",
-                                 "encodingSelect", "reloadButton", "saveButton"})
-            QVERIFY2(!child<QWidget>(name)->isEnabled(), name);
-        QVERIFY(button("saveAsButton")->isEnabled());
-        QCOMPARE(child<QLabel>("encodingLabel")->text(), QStringLiteral("File encoding:"));
-        QCOMPARE(button("reloadButton")->text(), QStringLiteral("Reload file"));
-        QCOMPARE(button("saveButton")->text(), QStringLiteral("Save"));
-        QCOMPARE(button("saveAsButton")->text(), QStringLiteral("Save As..."));
-        QCOMPARE(child<QPlainTextEdit>("editCommentary")->font().family(), QStringLiteral("DejaVu Sans Mono"));
-    }
-
-    void encodingChoices()
-    {
-        auto* combo = child<QComboBox>("encodingSelect");
-        QCOMPARE(combo->count(), static_cast<int>(MesWidget::encodingList().size()));
-        QCOMPARE(combo->itemText(combo->count() - 1), MesWidget::encodingList().last());
-        const QList<QByteArray> available = QTextCodec::availableCodecs();
-        for (const QString& name : MesWidget::encodingList())
-            QVERIFY(available.contains(name.toLatin1()));
-        QCOMPARE(combo->currentIndex(), 0); // left where filling put it
-        QCOMPARE(page->getCodec()->mibEnum(), 106);
-
-        MesWidget unknown(nullptr, QStringLiteral("no such codec"));
-        QCOMPARE(unknown.getCodec()->mibEnum(), 106);
-        QCOMPARE(unknown.findChild<QComboBox*>(QStringLiteral("encodingSelect"))->currentText().toUpper(),
-                 QStringLiteral("UTF-8"));
-    }
-
-    void messageTable()
-    {
-        const QString file = open(QStringLiteral("items.mes"), MESSAGES);
-        QCOMPARE(page->getFilename(), file);
-        QVERIFY(table()->isEnabled());
-        QVERIFY(!button("saveButton")->isEnabled());
-        QVERIFY(!button("reloadButton")->isEnabled());
+        open(QStringLiteral("items.mes"), MESSAGES);
+        QCOMPARE(model()->rowCount(), 4);
+        QCOMPARE(model()->columnCount(), 3);
+        QCOMPARE(model()->data(model()->index(1, 0)).toString(), QStringLiteral("101"));
+        QCOMPARE(model()->data(model()->index(1, 1)).toString(), QStringLiteral("Steam pistol"));
+        QCOMPARE(model()->data(model()->index(1, 2)).toString(), QStringLiteral("  // needs bullets"));
         QCOMPARE(child<QPlainTextEdit>("editCommentary")->toPlainText(), QStringLiteral("// Test items\n"));
-        QCOMPARE(table()->rowCount(), 4);
-        QCOMPARE(table()->columnCount(), 3);
-        QStringList titles;
-        for (int column = 0; column < 3; ++column)
-            titles << table()->horizontalHeaderItem(column)->text();
-        QCOMPARE(titles, QStringList({"#", "Item 1", "Comment"}));
-
-        QTableWidgetItem* index = table()->item(1, 0);
-        QCOMPARE(index->text(), QStringLiteral("101"));
-        QCOMPARE(index->flags(), Qt::NoItemFlags);
-        QVERIFY(index->font().bold());
-        QCOMPARE(index->toolTip(), QStringLiteral("Index: 101"));
-        QCOMPARE(table()->item(1, 1)->text(), QStringLiteral("Steam pistol"));
-        QCOMPARE(table()->item(1, 1)->toolTip(), QStringLiteral("Index: 101"));
-        QCOMPARE(table()->item(1, 2)->text(), QStringLiteral("  // needs bullets"));
-        QVERIFY(table()->item(1, 2)->toolTip().isEmpty());
-        QCOMPARE(table()->item(2, 1)->text(), QStringLiteral("A dagger.\n\tNotched."));
+        // The row that cannot be read shows its text and cannot be edited.
+        QCOMPARE(model()->data(model()->index(3, 1)).toString(), QStringLiteral("{x}{broken}"));
+        QVERIFY(!(model()->flags(model()->index(3, 1)) & Qt::ItemIsEditable));
+        QVERIFY(!(model()->flags(model()->index(0, 0)) & Qt::ItemIsEditable));
+        QVERIFY2(page->document()->damage().contains(QStringLiteral("entry 4 (line 6)")), qPrintable(page->document()->damage()));
     }
 
-    void dialogueTable()
+    void dialogueAsTable()
     {
         open(QStringLiteral("talk.dlg"), DIALOGUE);
-        QCOMPARE(table()->columnCount(), 8);
-        QStringList titles;
-        for (int column = 0; column < 8; ++column)
-            titles << table()->horizontalHeaderItem(column)->text();
-        QCOMPARE(titles, QStringList({"#", "Text", "Gender or female line", "Int. Test", "Condition", "Response",
-                                      "Result", "Comment"}));
-        // The number's tool tip is the comment's, not "Line number 10".
-        QCOMPARE(table()->item(1, 0)->toolTip(), QStringLiteral(" // last"));
-        QCOMPARE(table()->item(1, 7)->text(), QStringLiteral(" // last"));
-        QCOMPARE(table()->item(0, 3)->toolTip(), QStringLiteral("Minimum: 55"));
-        QCOMPARE(table()->item(1, 2)->toolTip(), QStringLiteral("female only"));
-        QCOMPARE(table()->item(1, 5)->text(), QStringLiteral("0"));
+        QCOMPARE(model()->columnCount(), 8);
+        QCOMPARE(model()->data(model()->index(1, 4)).toString(), QStringLiteral("qu 5 2"));
     }
 
-    void editInItemView()
+    void everyEditUndoes_data()
     {
-        const QString file = open(QStringLiteral("edit.mes"), MESSAGES);
-        clickCell(1, 1);
-        QCOMPARE(itemView()->toPlainText(), QStringLiteral("Steam pistol"));
-        QVERIFY(!itemView()->isReadOnly());
-        QCOMPARE(completeLine()->text(), QStringLiteral("{101}{Steam pistol}  // needs bullets\n"));
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<int>("steps");
+        QTest::newRow("cell text") << "cell" << 1;
+        QTest::newRow("comment") << "comment" << 1;
+        QTest::newRow("typing in the text box merges") << "typing" << 1;
+        QTest::newRow("two cells") << "two cells" << 2;
+        QTest::newRow("header") << "header" << 1;
+    }
 
-        typeInItemView(QStringLiteral(" Mk II"));
-        QCOMPARE(table()->item(1, 1)->text(), QStringLiteral("Steam pistol Mk II"));
-        QCOMPARE(page->getModel()->getEntryAt(1)->getItemAt(0), QStringLiteral("Steam pistol Mk II"));
-        QCOMPARE(completeLine()->text(), QStringLiteral("{101}{Steam pistol Mk II}  // needs bullets\n"));
-        QVERIFY(page->isModified());
-        QVERIFY(button("saveButton")->isEnabled());
-        QVERIFY(button("reloadButton")->isEnabled());
+    void everyEditUndoes()
+    {
+        QFETCH(QString, kind);
+        QFETCH(int, steps);
+        open(QStringLiteral("items.mes"), MESSAGES);
+        const auto edit = [&] {
+            if (kind == QLatin1String("cell")) {
+                model()->setData(model()->index(0, 1), QStringLiteral("Oil lantern"));
+            } else if (kind == QLatin1String("comment")) {
+                model()->setData(model()->index(0, 2), QStringLiteral(" // new"));
+            } else if (kind == QLatin1String("typing")) {
+                selectCell(0, 1);
+                itemView()->setFocus();
+                itemView()->moveCursor(QTextCursor::End);
+                QTest::keyClicks(itemView(), QStringLiteral(", old"));
+            } else if (kind == QLatin1String("two cells")) {
+                model()->setData(model()->index(0, 1), QStringLiteral("One"));
+                model()->setData(model()->index(1, 1), QStringLiteral("Two"));
+            } else {
+                child<QPlainTextEdit>("editCommentary")->setPlainText(QStringLiteral("// Changed\n"));
+            }
+        };
+        QVERIFY(checkUndoRedo(*page->document(), edit, steps));
+    }
 
-        clickCell(1, 2);
-        QCOMPARE(itemView()->toPlainText(), QStringLiteral("  // needs bullets"));
-        itemView()->selectAll();
-        QTest::keyClicks(itemView(), QStringLiteral(" // loud"));
-        QCOMPARE(page->getModel()->getEntryAt(1)->getComment(), QStringLiteral(" // loud"));
+    void sourceLineFollowsTheCell()
+    {
+        open(QStringLiteral("items.mes"), MESSAGES);
+        selectCell(0, 1);
+        QCOMPARE(child<QLineEdit>("completeLine")->text(), QStringLiteral("{100}{Rusty dagger}\n"));
+        model()->setData(model()->index(0, 1), QStringLiteral("Oil lantern"));
+        QCOMPARE(child<QLineEdit>("completeLine")->text(), QStringLiteral("{100}{Oil lantern}\n"));
+        QCOMPARE(itemView()->toPlainText(), QStringLiteral("Oil lantern"));
+        QCOMPARE(page->document()->undoStack()->undoText(), QStringLiteral("Edit text of 100"));
+        page->document()->undoStack()->undo();
+        QCOMPARE(child<QLineEdit>("completeLine")->text(), QStringLiteral("{100}{Rusty dagger}\n"));
+    }
 
-        // Saved and read back, only the edited line differs.
+    void savingTwiceWritesTheSameBytes()
+    {
+        const QString file = open(QStringLiteral("items.mes"), MESSAGES);
+        model()->setData(model()->index(0, 1), QStringLiteral("Oil lantern"));
         ScriptedAnswerer answers;
-        answers.buttons << QMessageBox::Yes;
-        QTest::mouseClick(button("saveButton"), Qt::LeftButton);
-        QCOMPARE(answers.last(QStringLiteral("question"))->title, QStringLiteral("Save"));
-        QCOMPARE(answers.last(QStringLiteral("question"))->text, QStringLiteral("Overwrite file?"));
-        QCOMPARE(answers.last(QStringLiteral("question"))->defaultButton, QMessageBox::No);
-        QVERIFY(!page->isModified());
-        QByteArray expected = MESSAGES;
-        expected.replace("{101}{Steam pistol}  // needs bullets", "{101}{Steam pistol Mk II} // loud");
-        QCOMPARE(FormatChecks::readFile(file), expected);
-        page->loadMes(file);
-        QCOMPARE(table()->item(1, 1)->text(), QStringLiteral("Steam pistol Mk II"));
+        answers.buttons << QMessageBox::Yes << QMessageBox::Yes;
+        QVERIFY(page->save());
+        const QByteArray first = FormatChecks::readFile(file);
+        QVERIFY(first.contains("{100}{Oil lantern}\r\n"));
+        QVERIFY(first.startsWith("// Test items\r\n{100}"));
+        model()->setData(model()->index(1, 1), QStringLiteral("Pistol"));
+        QVERIFY(page->save());
+        QVERIFY(FormatChecks::readFile(file).startsWith("// Test items\r\n{100}"));
+        QVERIFY(!page->document()->isModified());
+        QVERIFY(!child<QPushButton>("saveButton")->isEnabled());
     }
 
-    void editInTable()
+    void declinedOverwriteWritesNothing()
     {
-        open(QStringLiteral("cell.mes"), MESSAGES);
-        clickCell(0, 1);
-        table()->item(0, 1)->setText(QStringLiteral("Sharp dagger"));
-        QCOMPARE(itemView()->toPlainText(), QStringLiteral("Sharp dagger"));
-        QCOMPARE(page->getModel()->getEntryAt(0)->getItemAt(0), QStringLiteral("Sharp dagger"));
-        QVERIFY(page->isModified());
-
-        // Keyboard moves bring the new cell into the text box.
-        table()->setCurrentCell(2, 1);
-        QCOMPARE(itemView()->toPlainText(), QStringLiteral("A dagger.\n\tNotched."));
-        QCOMPARE(completeLine()->text(), QStringLiteral("{110}{A dagger.\n\tNotched.}\n"));
-
-        // Typed into the cell's own editor and left with the arrow key: saved, and the text box follows.
-        table()->setCurrentCell(1, 1);
-        table()->editItem(table()->item(1, 1));
-        QWidget* editor = QApplication::focusWidget();
-        QVERIFY(editor && editor != table());
-        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(editor, QStringLiteral("Brass pistol"));
-        QTest::keyClick(editor, Qt::Key_Down);
-        QCOMPARE(page->getModel()->getEntryAt(1)->getItemAt(0), QStringLiteral("Brass pistol"));
-        QCOMPARE(table()->currentRow(), 2);
-        QCOMPARE(itemView()->toPlainText(), QStringLiteral("A dagger.\n\tNotched."));
-        typeInItemView(QStringLiteral("!"));
-        QCOMPARE(page->getModel()->getEntryAt(2)->getItemAt(0), QStringLiteral("A dagger.\n\tNotched.!"));
-        QCOMPARE(page->getModel()->getEntryAt(1)->getItemAt(0), QStringLiteral("Brass pistol"));
-    }
-
-    void readOnlyCells()
-    {
-        open(QStringLiteral("flags.mes"), MESSAGES);
-        QTableWidgetItem* index = table()->item(0, 0);
-        QVERIFY(!(index->flags() & Qt::ItemIsEditable));
-        QVERIFY(!(index->flags() & Qt::ItemIsSelectable));
-        QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, table()->visualItemRect(index).center());
-        QVERIFY(!table()->isPersistentEditorOpen(index));
-        QCOMPARE(table()->item(0, 0)->text(), QStringLiteral("100"));
-
-        // A line that could not be read is written back as read; its cells take no edits.
-        clickCell(3, 1);
-        QVERIFY(!(table()->item(3, 1)->flags() & Qt::ItemIsEditable));
-        QVERIFY(itemView()->isReadOnly());
-        QCOMPARE(completeLine()->text(), QStringLiteral("{x}{broken}\n"));
-        QVERIFY(completeLine()->toolTip().contains(QStringLiteral("Index could not be parsed")));
-    }
-
-    void headerEdit()
-    {
-        const QString file = open(QStringLiteral("header.mes"), MESSAGES);
-        auto* header = child<QPlainTextEdit>("editCommentary");
-        header->moveCursor(QTextCursor::End);
-        QTest::keyClicks(header, QStringLiteral("// more"));
-        QCOMPARE(page->getModel()->getHeader(), QStringLiteral("// Test items\n// more"));
-        QVERIFY(page->isModified());
-        QVERIFY(page->saveFile(file));
-        QVERIFY(FormatChecks::readFile(file).startsWith("// Test items\r\n// more\r\n{100}"));
-    }
-
-    void encodingChangeReloadsFromDisk()
-    {
-        QTextCodec* cp1251 = QTextCodec::codecForName("Windows-1251");
-        const QString russian = QStringLiteral("\u0421\u0442\u0430\u0440\u044B\u0439 \u043C\u0435\u0447");
-        open(QStringLiteral("ru.mes"), cp1251->fromUnicode(QStringLiteral("{1}{") + russian + QStringLiteral("}\r\n")));
-        QVERIFY(table()->item(0, 1)->text() != russian);
-        clickCell(0, 1);
-        typeInItemView(QStringLiteral("edit"));
-        QVERIFY(page->isModified());
-
-        ScriptedAnswerer answers;
-        auto* combo = child<QComboBox>("encodingSelect");
-        combo->setCurrentIndex(combo->findText(QString::fromLatin1(cp1251->name())));
-        QCOMPARE(page->getCodec(), cp1251);
-        QCOMPARE(table()->item(0, 1)->text(), russian);
-        QVERIFY(!page->isModified());
-        QVERIFY(answers.asked.isEmpty());
-    }
-
-    void reloadAsksFirst()
-    {
-        open(QStringLiteral("reload.mes"), MESSAGES);
-        clickCell(0, 1);
-        typeInItemView(QStringLiteral("!"));
-        ScriptedAnswerer answers;
-        answers.buttons << QMessageBox::No << QMessageBox::Yes;
-        QTest::mouseClick(button("reloadButton"), Qt::LeftButton);
-        QCOMPARE(answers.last(QStringLiteral("question"))->title, QStringLiteral("Reload"));
-        QCOMPARE(answers.last(QStringLiteral("question"))->text,
-                 QStringLiteral("Really reload? You will lose all changes made"));
-        QCOMPARE(table()->item(0, 1)->text(), QStringLiteral("Rusty dagger!"));
-        QTest::mouseClick(button("reloadButton"), Qt::LeftButton);
-        QCOMPARE(table()->item(0, 1)->text(), QStringLiteral("Rusty dagger"));
-        QVERIFY(!page->isModified());
-        QVERIFY(completeLine()->text().isEmpty());
-    }
-
-    void saveDeclined()
-    {
-        const QString file = open(QStringLiteral("declined.mes"), MESSAGES);
-        clickCell(0, 1);
-        typeInItemView(QStringLiteral("!"));
+        const QString file = open(QStringLiteral("items.mes"), MESSAGES);
+        model()->setData(model()->index(0, 1), QStringLiteral("Oil lantern"));
         ScriptedAnswerer answers;
         answers.buttons << QMessageBox::No;
-        QTest::mouseClick(button("saveButton"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>("saveButton"), Qt::LeftButton);
+        QCOMPARE(answers.last(QStringLiteral("question"))->text, QStringLiteral("Overwrite items.mes?"));
         QCOMPARE(FormatChecks::readFile(file), MESSAGES);
-        QVERIFY(page->isModified());
+        QVERIFY(page->document()->isModified());
     }
 
     void saveAsShowsTheNewFile()
     {
-        const QString file = open(QStringLiteral("original.dlg"), DIALOGUE);
-        clickCell(1, 1);
-        typeInItemView(QStringLiteral("!"));
+        open(QStringLiteral("items.mes"), MESSAGES);
+        model()->setData(model()->index(0, 1), QStringLiteral("Oil lantern"));
         ScriptedAnswerer answers;
-        QTest::mouseClick(button("saveAsButton"), Qt::LeftButton); // cancelled
-        QCOMPARE(answers.count(QStringLiteral("save")), 1);
-        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save file"));
-        QCOMPARE(answers.last(QStringLiteral("save"))->text,
-                 QStringLiteral(".|Arcanum Mes files (*.mes);;Arcanum Dialogue files (*.dlg);;All files (*.*)"));
-        QVERIFY(page->isModified());
-        QCOMPARE(page->getFilename(), file);
-
-        const QString copy = path(QStringLiteral("copy.dlg"));
-        answers.fileNames << copy;
-        QTest::mouseClick(button("saveAsButton"), Qt::LeftButton);
-        QCOMPARE(page->getFilename(), copy);
-        QVERIFY(!page->isModified());
-        QCOMPARE(table()->columnCount(), 8);
-        QCOMPARE(table()->item(1, 1)->text(), QStringLiteral("Bye.!"));
-        QCOMPARE(FormatChecks::readFile(file), DIALOGUE);
-        QByteArray expected = DIALOGUE;
-        expected.replace("{Bye.}", "{Bye.!}").append(" // last");
-        QCOMPARE(FormatChecks::readFile(copy), expected);
+        answers.fileNames << path(QStringLiteral("copy.mes"));
+        QTest::mouseClick(child<QPushButton>("saveAsButton"), Qt::LeftButton);
+        QVERIFY(answers.last(QStringLiteral("save"))->text.startsWith(path(QStringLiteral("items.mes"))));
+        QCOMPARE(page->document()->path(), path(QStringLiteral("copy.mes")));
+        QVERIFY(FormatChecks::readFile(path(QStringLiteral("copy.mes"))).contains("{100}{Oil lantern}"));
+        QCOMPARE(FormatChecks::readFile(path(QStringLiteral("items.mes"))), MESSAGES);
     }
 
     void failedSaveKeepsTheEdits()
     {
-        open(QStringLiteral("kept.mes"), MESSAGES);
-        clickCell(0, 1);
-        typeInItemView(QStringLiteral("!"));
+        open(QStringLiteral("items.mes"), MESSAGES);
+        model()->setData(model()->index(0, 1), QStringLiteral("Oil lantern"));
         ScriptedAnswerer answers;
-        const QString target = path(QStringLiteral("missing/dir/kept.mes"));
-        answers.fileNames << target;
-        QTest::mouseClick(button("saveAsButton"), Qt::LeftButton);
-        const ScriptedAnswerer::Asked* box = answers.last(QStringLiteral("message"));
-        QVERIFY(box);
-        QCOMPARE(box->icon, QMessageBox::Critical);
-        QCOMPARE(box->title, QStringLiteral("Error saving file"));
-        QCOMPARE(box->text, QStringLiteral("Could not save file to %1: unknown reason").arg(target));
-        QVERIFY(page->isModified());
-        QVERIFY(button("saveButton")->isEnabled());
-        QVERIFY(button("reloadButton")->isEnabled());
-        QCOMPARE(page->getFilename(), path(QStringLiteral("kept.mes")));
-        QCOMPARE(table()->item(0, 1)->text(), QStringLiteral("Rusty dagger!"));
+        answers.fileNames << dir.filePath(QStringLiteral("missing/folder/x.mes"));
+        QVERIFY(!page->saveAs());
+        QVERIFY(answers.last(QStringLiteral("message"))->text.startsWith(QStringLiteral("Could not save")));
+        QVERIFY(page->document()->isModified());
+        QCOMPARE(page->document()->path(), path(QStringLiteral("items.mes")));
     }
 
-    void failedLoadDisablesThePage()
+    void windows1251ReadAsUtf8IsNotDamaged()
     {
-        open(QStringLiteral("good.mes"), MESSAGES);
-        page->loadMes(path(QStringLiteral("absent.mes")));
-        QVERIFY(!table()->isEnabled());
-        QCOMPARE(table()->rowCount(), 0);
-        QVERIFY(button("saveAsButton")->isEnabled());
-        // Typing with nothing loaded goes nowhere and breaks nothing.
-        itemView()->setPlainText(QStringLiteral("stray"));
-        page->saveChangeToMem(5, 1);
-        page->saveChangeToMemImpl(QStringLiteral("x"), 0, 1);
+        const QByteArray russian = QByteArrayLiteral("{1}{") + cp1251(QStringLiteral("Меч")) + "}\r\n{2}{"
+                                   + cp1251(QStringLiteral("Щит")) + "}\r\n{3}{Shield}\r\n";
+        const QString file = open(QStringLiteral("ru.mes"), russian);
+        QVERIFY(page->document()->damage().contains(QStringLiteral("Line 1 and 1 more lines cannot be read in UTF-8")));
+        model()->setData(model()->index(2, 1), QStringLiteral("Buckler"));
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes << QMessageBox::Cancel;
+        QVERIFY(!page->save());
+        QVERIFY2(answers.last(QStringLiteral("question"))->text.startsWith(
+            QStringLiteral("Saving in UTF-8 would change 2 lines that were not edited")), qPrintable(answers.last(QStringLiteral("question"))->text));
+        QCOMPARE(FormatChecks::readFile(file), russian);
+
+        // In the file's own encoding the same edit saves and every Cyrillic byte stays.
+        answers.buttons << QMessageBox::Discard;
+        child<QComboBox>("encodingSelect")->setCurrentText(QStringLiteral("windows-1251"));
+        QVERIFY(page->document()->damage().isEmpty());
+        model()->setData(model()->index(2, 1), QStringLiteral("Buckler"));
+        answers.buttons << QMessageBox::Yes;
+        QVERIFY(page->save());
+        QCOMPARE(FormatChecks::readFile(file), QByteArray(russian).replace("Shield", "Buckler"));
     }
 
-    void damagedFilesOpen()
+    void wheelLeavesUnfocusedControlsAlone()
     {
-        for (const QByteArray& bytes : {QByteArray(2000, '\0'), QByteArray("}{\n{{\n{1}}{\n{"),
-                                        FormatChecks::randomBytes(3000, 5, true)}) {
-            open(QStringLiteral("damaged.dlg"), bytes);
-            open(QStringLiteral("damaged.mes"), bytes);
-            for (int row = 0; row < table()->rowCount(); ++row)
-                table()->setCurrentCell(row, 1);
-        }
+        open(QStringLiteral("items.mes"), MESSAGES);
+        page->show();
+        auto* encodings = child<QComboBox>("encodingSelect");
+        const QString before = encodings->currentText();
+        QWheelEvent wheel(QPointF(5, 5), encodings->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(encodings, &wheel);
+        QCOMPARE(encodings->currentText(), before);
     }
 };
 

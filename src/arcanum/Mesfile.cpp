@@ -335,12 +335,23 @@ bool Mesfile::load(QTextCodec* codec)
     }
     if (!hasKnownSuffix(file.fileName()))
         qWarning("Mesfile::load(): WARNING: filename doesn'tend with .mes or .dlg");
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!file.open(QIODevice::ReadOnly)) {
         qWarning("Failed to open file for reading");
         return false;
     }
     const QByteArray bytes = file.readAll();
     file.close();
+    return loadBytes(bytes, codec);
+}
+
+bool Mesfile::loadBytes(QByteArray bytes, QTextCodec* codec)
+{
+    clear();
+    header.clear();
+    loaded = false;
+    utf8Bom = false;
+    // Line ends are read as the text mode of a file reads them: every carriage return goes.
+    bytes.replace('\r', QByteArray());
     if (bytes.isEmpty())
         return false;
     if (!codec)
@@ -349,6 +360,25 @@ bool Mesfile::load(QTextCodec* codec)
     readEntries(TextCodec::decode(codec, bytes));
     loaded = true;
     return true;
+}
+
+QByteArray Mesfile::toBytes(QTextCodec* codec) const
+{
+    if (!codec)
+        codec = QTextCodec::codecForMib(UTF8_MIB);
+    QString text = header;
+    text.replace(QLatin1Char('\n'), WIN_ENDLINE);
+    if (!text.isEmpty() && !text.endsWith(QLatin1Char('\n')))
+        text += WIN_ENDLINE;
+    for (const auto& entry : entries) {
+        QString line = entry->getLine();
+        line.replace(QLatin1Char('\n'), WIN_ENDLINE);
+        text += line;
+    }
+    QByteArray bytes = TextCodec::encode(codec, text);
+    if (utf8Bom && codec->mibEnum() == UTF8_MIB)
+        bytes.prepend(UTF8_BOM);
+    return bytes;
 }
 
 void Mesfile::readEntries(const QString& decoded)

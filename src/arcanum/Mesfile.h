@@ -99,6 +99,11 @@ public:
     void setFilename(const QString& name);
     QString getFilename() const { return file.fileName(); }
     bool loadFile(const QString& fileName, QTextCodec* codec);
+    // Reads the bytes of a file (as load reads the bound file); false for no bytes.
+    bool loadBytes(QByteArray bytes, QTextCodec* codec);
+    // The bytes of the file as it stands, Windows line ends; unlike save, never changes the model, so
+    // writing twice gives the same bytes twice.
+    QByteArray toBytes(QTextCodec* codec) const;
     bool isLoaded() const { return loaded; }
     int getEntryCount() const { return static_cast<int>(entries.size()); }
     // Null for a position outside the list.
