@@ -1,6 +1,7 @@
 #include "Document.h"
 
 #include "SafeSave.h"
+#include "SnapshotCommand.h"
 
 #include <QFileInfo>
 #include <QUndoStack>
@@ -52,4 +53,33 @@ bool Document::save(const QString& path, QString& error)
     stack->setClean();
     emit saved(filePath);
     return true;
+}
+
+void Document::beginEdit()
+{
+    QString error;
+    if (!serialize(editStart, error))
+        editStart.clear();
+}
+
+void Document::recordEdit(const QString& text, int mergeId, int key)
+{
+    QByteArray now;
+    QString error;
+    if (!serialize(now, error) || now == editStart)
+        return;
+    stack->push(new SnapshotCommand(this, text, editStart, now, mergeId, key));
+    editStart = now;
+}
+
+void Document::restore(const QByteArray& bytes)
+{
+    restoreModel(bytes);
+    editStart = bytes;
+    emit changed();
+}
+
+void Document::restoreModel(const QByteArray& /*bytes*/)
+{
+    qWarning("Document::restoreModel: this document records no edits");
 }

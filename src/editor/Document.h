@@ -38,6 +38,20 @@ public:
     // Writes through a temporary file; on success the document is clean and takes the new path.
     bool save(const QString& path, QString& error);
 
+    // For forms that change the model in place: call before the change, then recordEdit after it, which
+    // pushes one undo step (or nothing, when the bytes did not change).
+    void beginEdit();
+    void recordEdit(const QString& text, int mergeId = -1, int key = 0);
+    // Puts the model back into the state of bytes a serialize gave (undo of a recorded edit) and
+    // announces it with changed().
+    void restore(const QByteArray& bytes);
+
+protected:
+    // Documents that record edits read their model back from such bytes.
+    virtual void restoreModel(const QByteArray& bytes);
+
+public:
+
 signals:
     void modifiedChanged(bool modified);
     void pathChanged(const QString& path);
@@ -48,5 +62,6 @@ signals:
 
 private:
     QString filePath;
+    QByteArray editStart;
     QUndoStack* stack = nullptr;
 };
