@@ -4,6 +4,7 @@
 #include "SafeSave.h"
 #include "constants.h"
 
+#include <QBuffer>
 #include <QFile>
 
 #include <algorithm>
@@ -100,12 +101,23 @@ void Script::Statement::clearParameters()
 bool Script::load(const QString& path)
 {
     clear();
-    const int newId = idFromFilename(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
-    if (newId == -1)
+    if (idFromFilename(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1)) == -1)
         return false;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
+    return loadBytes(path, file.readAll());
+}
+
+bool Script::loadBytes(const QString& path, const QByteArray& bytes)
+{
+    clear();
+    const int newId = idFromFilename(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
+    if (newId == -1)
+        return false;
+    QBuffer file;
+    file.setData(bytes);
+    file.open(QIODevice::ReadOnly);
     readHeaderFrom(file);
     const qint64 wanted = header.lineCount > 0 ? qint64(header.lineCount) * LineSize : 0;
     readLines(file.read(std::min(wanted, file.bytesAvailable())));

@@ -111,6 +111,8 @@ public:
     // False when the file name does not begin with a script number or the file cannot be opened.
     // A short file loads as far as it goes; what it lacks reads as zero.
     bool load(const QString& path);
+    // As load, from the bytes of a file named path (the script's number comes from its name).
+    bool loadBytes(const QString& path, const QByteArray& bytes);
     // Builds the whole file in memory and replaces path only when all of it was written.
     bool save(const QString& path) const;
     bool loadHeader(std::istream& in);

@@ -2,7 +2,9 @@
 
 #include "DialogNewStatement.h"
 #include "Prompt.h"
+#include "ScriptDocument.h"
 #include "TokensWidget.h"
+#include "WheelGuard.h"
 #include "ui_ScriptWidget.h"
 
 #include <QGridLayout>
@@ -14,10 +16,12 @@ using arcanum::Script;
 namespace {
 // Keeps the rows at the top of the scroll area however few there are.
 constexpr int FillerHeight = 1200;
+const int DESCRIPTION_MERGE_ID = 2001;
+const int OPERAND_MERGE_ID = 2002;
 } // namespace
 
 ScriptWidget::ScriptWidget(QWidget* parent)
-    : QWidget(parent)
+    : Page(parent)
     , ui(std::make_unique<Ui::ScriptWidget>())
 {
     ui->setupUi(this);
@@ -25,33 +29,46 @@ ScriptWidget::ScriptWidget(QWidget* parent)
     bold.setBold(true);
     ui->labelHeader->setFont(bold);
     ui->labelHeader->setMinimumWidth(ui->labelHeader->fontMetrics().horizontalAdvance(tr("No script")));
+    WheelGuard::install(this);
     updateControls();
 }
 
 ScriptWidget::~ScriptWidget() = default;
 
-bool ScriptWidget::loadScript(const QString& fullPath)
+QStringList ScriptWidget::suffixes() const
 {
-    clear();
-    if (!script.load(fullPath)) {
-        updateControls();
-        return false;
-    }
-    path = fullPath;
-    modified = false;
-    updateHeader();
-    updateCode();
-    return true;
+    return {QStringLiteral("scr")};
 }
 
-void ScriptWidget::clear()
+QString ScriptWidget::fileFilter() const
 {
-    script.clear();
-    path.clear();
-    modified = false;
-    clearWidgets();
+    return tr("Arcanum scripts (*.scr);;All files (*)");
+}
+
+std::unique_ptr<Document> ScriptWidget::load(const QString& path, QString& error) const
+{
+    return ScriptDocument::load(path, error);
+}
+
+ScriptDocument* ScriptWidget::scriptDocument() const
+{
+    return static_cast<ScriptDocument*>(document());
+}
+
+void ScriptWidget::showDocument()
+{
+    if (ScriptDocument* shown = scriptDocument()) {
+        // An undo or redo puts back a whole state: rows and header are built again from it.
+        connect(shown, &Document::changed, this, [this] {
+            updateHeader();
+            updateCode();
+        });
+        connect(shown, &Document::modifiedChanged, this, &ScriptWidget::updateControls);
+    }
     updateHeader();
-    updateControls();
+    updateCode();
+    // Another script starts at its first line.
+    ui->scrollArea->verticalScrollBar()->setValue(0);
 }
 
 bool ScriptWidget::readOnly() const
@@ -59,15 +76,15 @@ bool ScriptWidget::readOnly() const
     return ui->checkReadOnly->isChecked();
 }
 
-void ScriptWidget::markModified()
+void ScriptWidget::recordEdit(const QString& text, int mergeId, int key)
 {
-    modified = true;
+    scriptDocument()->recordEdit(text, mergeId, key);
     updateControls();
 }
 
-void ScriptWidget::linesChanged()
+void ScriptWidget::linesChanged(const QString& text)
 {
-    markModified();
+    recordEdit(text);
     updateCode();
 }
 
@@ -99,6 +116,11 @@ void ScriptWidget::updateCode()
     grid->setObjectName(QStringLiteral("gridRows"));
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
+    if (scriptDocument() == nullptr) {
+        updateControls();
+        return;
+    }
+    const Script& script = scriptDocument()->script();
     const std::vector<Script::Line>& lines = script.getLines();
     for (int i = 0; i < static_cast<int>(lines.size()); ++i) {
         const Script::Line& line = lines[static_cast<size_t>(i)];
@@ -122,7 +144,7 @@ void ScriptWidget::updateCode()
 void ScriptWidget::addRow(const Script::Tokens& tokens, int line, Script::LineType type)
 {
     auto* row = new TokensWidget(grid->parentWidget());
-    row->setTokens(tokens, line, type, script.lineTotal());
+    row->setTokens(tokens, line, type, scriptDocument()->script().lineTotal());
     row->setEnabled(!readOnly());
     connect(row, &TokensWidget::tokenChanged, this, &ScriptWidget::onTokenChanged);
     connect(row, &TokensWidget::lineToChange, this, &ScriptWidget::onLineToChange);
@@ -138,16 +160,18 @@ void ScriptWidget::addRow(const Script::Tokens& tokens, int line, Script::LineTy
 void ScriptWidget::updateHeader()
 {
     const QScopedValueRollback<bool> filling(updating, true);
-    const bool loaded = script.getId() != -1;
-    ui->editDesc->setText(loaded ? QString::fromLatin1(script.getHeader().desc()) : QString());
+    const ScriptDocument* shown = scriptDocument();
+    ui->editDesc->setText(shown ? QString::fromLatin1(shown->script().getHeader().desc()) : QString());
 }
 
 // Read-only keeps the script from being changed: rows, description, new lines and Save.
 void ScriptWidget::updateControls()
 {
-    const bool loaded = script.getId() != -1;
+    const ScriptDocument* shown = scriptDocument();
+    const bool loaded = shown != nullptr;
+    const bool modified = loaded && shown->isModified();
     ui->labelCaption->setVisible(loaded);
-    ui->labelHeader->setText(loaded ? QString::number(script.getId()) : tr("No script"));
+    ui->labelHeader->setText(loaded ? QString::number(shown->script().getId()) : tr("No script"));
     ui->editDesc->setEnabled(loaded);
     ui->editDesc->setReadOnly(readOnly());
     ui->buttonNewDO->setEnabled(loaded && !readOnly());
@@ -180,41 +204,30 @@ void ScriptWidget::on_buttonNewDO_pressed()
 
 void ScriptWidget::addIF(Script::Ifcode code)
 {
-    script.addCondition(code);
-    linesChanged();
+    scriptDocument()->beginEdit();
+    scriptDocument()->script().addCondition(code);
+    linesChanged(tr("Add IF line"));
 }
 
 void ScriptWidget::addDO(Script::Opcode code)
 {
-    script.addAction(code);
-    linesChanged();
+    scriptDocument()->beginEdit();
+    scriptDocument()->script().addAction(code);
+    linesChanged(tr("Add DO line"));
 }
 
 void ScriptWidget::on_buttonSave_clicked()
 {
-    if (Prompt::question(this, tr("Save"), tr("Overwrite file?"), QMessageBox::Yes | QMessageBox::No,
-                         QMessageBox::No)
-        != QMessageBox::Yes)
-        return;
-    // An unchanged description keeps whatever bytes follow its end.
-    const std::string desc = ui->editDesc->text().toLatin1().toStdString();
-    if (desc != script.getHeader().desc())
-        script.getHeader().setDesc(desc);
-    if (!script.save(path)) {
-        qWarning("ScriptWidget::on_buttonSave_clicked(): could not write %s", qUtf8Printable(path));
-        Prompt::message(this, QMessageBox::Critical, tr("Save"), tr("Error saving file"));
-        return;
-    }
-    modified = false;
-    updateControls();
+    save();
 }
 
 void ScriptWidget::on_editDesc_textEdited(const QString& text)
 {
-    if (updating)
+    if (updating || scriptDocument() == nullptr)
         return;
-    script.getHeader().setDesc(text.toLatin1().toStdString());
-    markModified();
+    scriptDocument()->beginEdit();
+    scriptDocument()->script().getHeader().setDesc(text.toLatin1().toStdString());
+    recordEdit(tr("Edit description"), DESCRIPTION_MERGE_ID);
 }
 
 void ScriptWidget::on_checkReadOnly_stateChanged(int)
@@ -224,45 +237,49 @@ void ScriptWidget::on_checkReadOnly_stateChanged(int)
 
 void ScriptWidget::onLineToUp(TokensWidget* row)
 {
-    script.moveLineUp(row->getLine());
-    linesChanged();
+    scriptDocument()->beginEdit();
+    scriptDocument()->script().moveLineUp(row->getLine());
+    linesChanged(tr("Move line %1 up").arg(row->getLine() + 1));
 }
 
 void ScriptWidget::onLineToDown(TokensWidget* row)
 {
-    script.moveLineDown(row->getLine());
-    linesChanged();
+    scriptDocument()->beginEdit();
+    scriptDocument()->script().moveLineDown(row->getLine());
+    linesChanged(tr("Move line %1 down").arg(row->getLine() + 1));
 }
 
 void ScriptWidget::onLineToDelete(TokensWidget* row)
 {
-    script.deleteLine(row->getLine());
-    linesChanged();
+    scriptDocument()->beginEdit();
+    scriptDocument()->script().deleteLine(row->getLine());
+    linesChanged(tr("Delete line %1").arg(row->getLine() + 1));
 }
 
 void ScriptWidget::onLineToChange(TokensWidget* row)
 {
-    Script::Statement* statement = script.getStatement(row->getLine(), row->getlineType());
+    Script::Statement* statement = scriptDocument()->script().getStatement(row->getLine(), row->getlineType());
     if (!statement)
         return;
     const int type = row->getlineType() == Script::LineIf ? DialogNewStatement::Condition : DialogNewStatement::Action;
     const int code = chooseStatement(type, statement->code);
-    if (code >= 0) {
-        statement->code = code;
-        statement->clearParameters();
-        markModified();
-    }
-    if (modified)
-        updateCode();
+    if (code < 0 || code == statement->code)
+        return;
+    scriptDocument()->beginEdit();
+    statement->code = code;
+    statement->clearParameters();
+    linesChanged(tr("Change statement of line %1").arg(row->getLine() + 1));
 }
 
 void ScriptWidget::onTokenChanged(TokensWidget* row)
 {
     if (updating)
         return;
-    Script::Statement* statement = script.getStatement(row->getLine(), row->getlineType());
+    Script::Statement* statement = scriptDocument()->script().getStatement(row->getLine(), row->getlineType());
     if (!statement)
         return;
+    scriptDocument()->beginEdit();
     Script::unloadTokens(row->getTokens(), *statement);
-    markModified();
+    recordEdit(tr("Edit operand of line %1").arg(row->getLine() + 1), OPERAND_MERGE_ID,
+               row->getLine() * 4 + int(row->getlineType()));
 }

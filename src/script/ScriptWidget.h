@@ -1,14 +1,15 @@
 #pragma once
 
+#include "Page.h"
 #include "Script.h"
 
 #include <QList>
 #include <QString>
-#include <QWidget>
 
 #include <memory>
 
 class QGridLayout;
+class ScriptDocument;
 class TokensWidget;
 
 namespace Ui {
@@ -17,7 +18,7 @@ class ScriptWidget;
 
 // The Script tab: one script file as a listing of lines, each line an IF row with its THEN and
 // ELSE rows or a single DO row, with operands edited in place.
-class ScriptWidget : public QWidget
+class ScriptWidget : public Page
 {
     Q_OBJECT
 
@@ -25,15 +26,16 @@ public:
     explicit ScriptWidget(QWidget* parent = nullptr);
     ~ScriptWidget() override;
 
-    // Shows the script; a file that cannot be read leaves the page empty ("No script").
-    bool loadScript(const QString& path);
-    // The file the page shows and saves to.
-    QString getPath() const { return path; }
-    arcanum::Script* getScript() { return &script; }
-    bool isModified() const { return modified; }
+    QStringList suffixes() const override;
+    QString fileFilter() const override;
+    std::unique_ptr<Document> load(const QString& path, QString& error) const override;
+
+    ScriptDocument* scriptDocument() const;
     // The rows currently shown, top to bottom.
     const QList<TokensWidget*>& rows() const { return rowWidgets; }
-    void clear();
+
+protected:
+    void showDocument() override;
 
 private slots:
     void on_buttonNewIF_pressed();
@@ -53,9 +55,10 @@ private:
     // The code chosen in the statement list, or -1 when it was cancelled.
     int chooseStatement(int type, int current);
     void addRow(const arcanum::Script::Tokens& tokens, int line, arcanum::Script::LineType type);
-    void markModified();
-    // A line was added, moved or deleted: the listing is built again.
-    void linesChanged();
+    // Records the change made since beginEdit as one step named text.
+    void recordEdit(const QString& text, int mergeId = -1, int key = 0);
+    // A line was added, moved or deleted: the step is recorded and the listing built again.
+    void linesChanged(const QString& text);
     void updateCode();
     void updateHeader();
     void updateControls();
@@ -63,9 +66,6 @@ private:
     bool readOnly() const;
 
     std::unique_ptr<Ui::ScriptWidget> ui;
-    arcanum::Script script;
-    QString path;
-    bool modified = false;
     // Set while rows and header are filled from the script, so nothing they emit counts as an edit.
     bool updating = false;
     QList<TokensWidget*> rowWidgets;
