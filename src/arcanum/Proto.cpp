@@ -69,6 +69,14 @@ bool Proto::readData(ibytestream& in)
         clear();
         return false;
     }
+    // A file shorter than its item type's layout would read as zeros and save padded with invented bytes.
+    if (!in.ok()) {
+        fail("the file ends at byte " + std::to_string(in.position()) + ", inside the data of its item type "
+                 + std::to_string(head.itemType),
+             in.position());
+        clear();
+        return false;
+    }
     data->rest = in.readRest();
     return true;
 }
