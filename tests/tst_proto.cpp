@@ -510,7 +510,7 @@ private slots:
                 ++loaded;
             }
         });
-        QVERIFY(loaded > 0 && loaded <= 5); // only cuts inside the four bytes after the layout
+        QVERIFY(loaded > 0 && loaded <= 6); // the whole file (twice) and cuts inside the four bytes after it
     }
 
     void corruptWeaponsAreSafe()
