@@ -8,6 +8,11 @@
 #include "ProtoScriptsWidget.h"
 #include "ProtoStaticData.h"
 #include "ProtoWidget.h"
+#include "Document.h"
+#include "UndoChecks.h"
+
+#include <QUndoStack>
+#include <QWheelEvent>
 #include "ScriptedAnswerer.h"
 
 #include <QCheckBox>
@@ -131,17 +136,70 @@ class TestProtoWidget : public QObject
         page.show();
         if (!QTest::qWaitForWindowExposed(&page))
             return false;
-        page.loadProto(local(path));
+        openProto(page, path);
         QCoreApplication::processEvents();
         return true;
     }
 
     static void clickSave(ProtoWidget& page)
     {
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes;
         QTest::mouseClick(child<QPushButton>(page, "buttonSave"), Qt::LeftButton);
     }
 
+    static bool openProto(ProtoWidget& page, const QString& path)
+    {
+        ScriptedAnswerer quiet; // a refused file is reported in a message box
+        return page.openFile(path);
+    }
+
+    static bool modified(const ProtoWidget& page) { return page.document() && page.document()->isModified(); }
+
 private slots:
+    void everyFieldUndoes_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<int>("steps");
+        QTest::newRow("spin box, typed twice") << "weaponToHit" << 1;
+        QTest::newRow("combo box") << "movableMaterialCombo" << 1;
+        QTest::newRow("flag") << "weaponTwoHandedCheck" << 1;
+        QTest::newRow("two fields") << "two" << 2;
+    }
+
+    void everyFieldUndoes()
+    {
+        QFETCH(QString, control);
+        QFETCH(int, steps);
+        ProtoWidget page;
+        QVERIFY(openProto(page, weaponFile()));
+        const auto edit = [&] {
+            if (control == QLatin1String("weaponToHit") || control == QLatin1String("two")) {
+                child<QSpinBox>(page, "weaponToHit")->setValue(7);
+                child<QSpinBox>(page, "weaponToHit")->setValue(9);
+            }
+            if (control == QLatin1String("movableMaterialCombo") || control == QLatin1String("two"))
+                child<QComboBox>(page, "movableMaterialCombo")->setCurrentIndex(2);
+            if (control == QLatin1String("weaponTwoHandedCheck"))
+                child<QCheckBox>(page, "weaponTwoHandedCheck")->toggle();
+        };
+        QVERIFY(checkUndoRedo(*page.document(), edit, steps));
+        QVERIFY(page.document()->undoStack()->undoText().startsWith(QStringLiteral("Edit ")));
+    }
+
+    void wheelDoesNotChangeValues()
+    {
+        ProtoWidget page;
+        QVERIFY(showLoaded(page, weaponFile()));
+        auto* weight = child<QSpinBox>(page, "movableWeight");
+        const int before = weight->value();
+        QWheelEvent wheel(QPointF(5, 5), weight->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(weight, &wheel);
+        QCOMPARE(weight->value(), before);
+        QVERIFY(!modified(page));
+    }
+
     void fillingDoesNotEdit()
     {
         ProtoWidget page;
@@ -150,8 +208,8 @@ private slots:
         QVERIFY(!child<QPushButton>(page, "buttonSaveAs")->isEnabled());
         QCOMPARE(child<QLabel>(page, "labelIndex")->text(), QStringLiteral("No item"));
 
-        QVERIFY(page.loadProto(local(weaponFile())));
-        QVERIFY(!page.isEdited());
+        QVERIFY(openProto(page, weaponFile()));
+        QVERIFY(!modified(page));
         QCOMPARE(child<QLabel>(page, "labelIndex")->text(), QStringLiteral("4027"));
         QCOMPARE(child<QLabel>(page, "labelItemType")->text(), QStringLiteral("Weapon"));
         QVERIFY(!child<QPushButton>(page, "buttonSave")->isEnabled());
@@ -161,25 +219,33 @@ private slots:
         QCOMPARE(child<QComboBox>(page, "weaponCriticalMiss")->currentText(), QStringLiteral("Gun"));
 
         child<QSpinBox>(page, "weaponToHit")->setValue(6);
-        QVERIFY(page.isEdited());
+        QVERIFY(modified(page));
         QVERIFY(child<QPushButton>(page, "buttonSave")->isEnabled());
         // A new file starts clean again.
-        page.loadProto(local(weaponFile()));
-        QVERIFY(!page.isEdited());
+        openProto(page, weaponFile());
+        QVERIFY(!modified(page));
     }
 
     void refusedFileShowsNoItem()
     {
         ProtoWidget page;
-        page.loadProto(local(weaponFile()));
         const QString broken = dir.filePath(QStringLiteral("broken.pro"));
         FormatChecks::writeFile(broken, QByteArray("\x78\0\0\0", 4));
-        page.loadProto(local(broken));
-        QCOMPARE(page.getPath(), local(broken));
-        QVERIFY(!page.getProto().isLoaded());
+        ScriptedAnswerer answers;
+        QVERIFY(!page.openFile(broken));
+        QVERIFY2(answers.last(QStringLiteral("message"))->text.contains(QStringLiteral("wrong signature 120")),
+                 qPrintable(answers.last(QStringLiteral("message"))->text));
+        QVERIFY(!page.document());
         QCOMPARE(child<QLabel>(page, "labelItemType")->text(), QStringLiteral("No item"));
-        QVERIFY(!visible(page, "movableGroup"));
         QVERIFY(!child<QPushButton>(page, "buttonSaveAs")->isEnabled());
+
+        // A prototype cut short is refused too, with the byte where it ends, and the page keeps its file.
+        QVERIFY(openProto(page, weaponFile()));
+        const QString cut = dir.filePath(QStringLiteral("cut.pro"));
+        FormatChecks::writeFile(cut, FormatChecks::readFile(weaponFile()).left(250));
+        QVERIFY(!page.openFile(cut));
+        QVERIFY(answers.last(QStringLiteral("message"))->text.contains(QStringLiteral("the file ends at byte 250")));
+        QCOMPARE(child<QLabel>(page, "labelItemType")->text(), QStringLiteral("Weapon"));
     }
 
     void groupsFollowTheItemType_data()
@@ -207,7 +273,7 @@ private slots:
         Proto proto;
         proto.create(type);
         ProtoWidget page;
-        page.loadProto(local(write(proto, QStringLiteral("type.pro"))));
+        openProto(page, write(proto, QStringLiteral("type.pro")));
         QStringList shown;
         for (const QGroupBox* group : page.findChildren<QGroupBox*>(QRegularExpression(QStringLiteral("^[a-z]+Group$"))))
             if (group->isVisibleTo(&page) && group->objectName() != QLatin1String("headerGroup"))
@@ -224,7 +290,7 @@ private slots:
         proto.asWall()->bytes[0] = 0xAB;
         proto.header().unknown1[29] = 0x7F;
         ProtoWidget page;
-        page.loadProto(local(write(proto, QStringLiteral("wall.pro"))));
+        openProto(page, write(proto, QStringLiteral("wall.pro")));
         auto* hex = child<HexWidget>(page, "hexWall");
         auto* table = hex->findChild<QTableWidget*>(QStringLiteral("table"));
         QCOMPARE(table->rowCount(), 321 / 20 + 1);
@@ -247,11 +313,11 @@ private slots:
     {
         const QString original = weaponFile();
         ProtoWidget page;
-        page.loadProto(local(original));
+        openProto(page, original);
         ScriptedAnswerer answers;
         answers.fileNames << dir.filePath(QStringLiteral("copy.pro"));
         QTest::mouseClick(child<QPushButton>(page, "buttonSaveAs"), Qt::LeftButton);
-        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save Proto"));
+        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save As"));
         QCOMPARE(FormatChecks::readFile(dir.filePath(QStringLiteral("copy.pro"))), FormatChecks::readFile(original));
         QCOMPARE(page.getProto().getPath(), local(original)); // the model keeps its own file
     }
@@ -261,10 +327,10 @@ private slots:
         const QString path = weaponFile();
         const QByteArray before = FormatChecks::readFile(path);
         ProtoWidget page;
-        page.loadProto(local(path));
+        openProto(page, path);
         child<QSpinBox>(page, "movableHitPointsSpin")->setValue(151);
         clickSave(page);
-        QVERIFY(page.isEdited()); // stays set after saving
+        QVERIFY(!modified(page)); // saved
         const QByteArray after = FormatChecks::readFile(path);
         QCOMPARE(differingBits(before, after), 1); // 150 -> 151
         Proto reopened;
@@ -277,20 +343,20 @@ private slots:
     void noAmmunitionKeeps10000()
     {
         ProtoWidget page;
-        page.loadProto(local(weaponFile()));
+        openProto(page, weaponFile());
         auto* ammo = child<QComboBox>(page, "weaponAmmoType");
         QCOMPARE(ammo->currentIndex(), ammo->count() - 1);
         QCOMPARE(ammo->currentText(), QStringLiteral("None"));
         child<QSpinBox>(page, "weaponSpeed")->setValue(3);
         clickSave(page);
         Proto reopened;
-        reopened.load(page.getPath());
+        reopened.load(local(page.document()->path()));
         QCOMPARE(reopened.asWeapon()->ammoType, 10000u);
         QCOMPARE(reopened.asWeapon()->speed, 3u);
 
         ammo->setCurrentIndex(1);
         clickSave(page);
-        reopened.load(page.getPath());
+        reopened.load(local(page.document()->path()));
         QCOMPARE(reopened.asWeapon()->ammoType, quint32(Proto::Bullet));
     }
 
@@ -302,19 +368,19 @@ private slots:
         proto.asWeapon()->criticalHit = 7;
         proto.asWeapon()->worth = 0xFFFFFFF0;
         ProtoWidget page;
-        page.loadProto(local(write(proto, QStringLiteral("odd.pro"))));
+        openProto(page, write(proto, QStringLiteral("odd.pro")));
         QCOMPARE(child<QComboBox>(page, "movableMaterialCombo")->currentText(), QStringLiteral("99"));
         QCOMPARE(child<QComboBox>(page, "weaponCriticalHit")->currentText(), QStringLiteral("7"));
         QCOMPARE(child<QSpinBox>(page, "movableWorth")->value(), -16); // all 32 bits, shown signed
         child<QSpinBox>(page, "movableWeight")->setValue(5);
         clickSave(page);
         Proto reopened;
-        reopened.load(page.getPath());
+        reopened.load(local(page.document()->path()));
         QCOMPARE(reopened.asWeapon()->material, 99u);
         QCOMPARE(reopened.asWeapon()->criticalHit, 7u);
         QCOMPARE(reopened.asWeapon()->worth, 0xFFFFFFF0u);
         // The odd entry goes again with the next file.
-        page.loadProto(local(weaponFile()));
+        openProto(page, weaponFile());
         QCOMPARE(child<QComboBox>(page, "movableMaterialCombo")->count(), int(Proto::MATERIAL_TYPE_COUNT));
     }
 
@@ -357,7 +423,7 @@ private slots:
         auto* check = page.findChild<QCheckBox*>(box);
         QVERIFY(check);
         QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(4, check->height() / 2));
-        QVERIFY(page.isEdited());
+        QVERIFY(modified(page));
         clickSave(page);
         QCOMPARE(differingBits(before, FormatChecks::readFile(path)), 1);
     }
@@ -365,7 +431,7 @@ private slots:
     void damageSetShowsItsKinds()
     {
         ProtoWidget page;
-        page.loadProto(local(weaponFile()));
+        openProto(page, weaponFile());
         auto* minimal = child<ProtoDamagesWidget>(page, "weaponMinDamages");
         QVERIFY(minimal->findChild<QGroupBox*>()->isChecked());
         QCOMPARE(minimal->findChild<QGroupBox*>()->title(), QStringLiteral("Minimal damages"));
@@ -386,16 +452,16 @@ private slots:
     void addingADamageKind()
     {
         ProtoWidget page;
-        page.loadProto(local(weaponFile()));
+        openProto(page, weaponFile());
         auto* magic = child<ProtoDamagesWidget>(page, "weaponMagicDamages");
         magic->findChild<QGroupBox*>()->setChecked(true);
         magic->findChild<QCheckBox*>(QStringLiteral("check3"))->setChecked(true);
         QVERIFY(magic->findChild<QSpinBox*>(QStringLiteral("spin3"))->isEnabled());
         magic->findChild<QSpinBox*>(QStringLiteral("spin3"))->setValue(-8);
-        QVERIFY(page.isEdited());
+        QVERIFY(modified(page));
         clickSave(page);
         Proto reopened;
-        reopened.load(page.getPath());
+        reopened.load(local(page.document()->path()));
         const Proto::Damages& saved = reopened.asWeapon()->magicDamages;
         QCOMPARE(saved.present, 1);
         QCOMPARE(saved.elementSize, 4u);
@@ -418,10 +484,10 @@ private slots:
 
         scripts->rowCheck(Proto::Use)->setChecked(true);
         QVERIFY(scripts->rowButton(Proto::Use)->isEnabled());
-        QVERIFY(page.isEdited());
+        QVERIFY(modified(page));
         clickSave(page);
         Proto reopened;
-        reopened.load(page.getPath());
+        reopened.load(local(page.document()->path()));
         const Proto::Scripts& saved = reopened.asWeapon()->scripts;
         QCOMPARE(saved.count, 2u);
         QCOMPARE(saved.mask(), (std::uint64_t(1) << 35) | 0x2);
@@ -448,10 +514,10 @@ private slots:
         QTest::mouseClick(scripts->rowButton(35), Qt::LeftButton);
         QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
         QCOMPARE(scripts->rowButton(35)->text(), QStringLiteral("77: counters=(1 2 200 4), flags=0x80000001"));
-        QVERIFY(page.isEdited());
+        QVERIFY(modified(page));
         clickSave(page);
         Proto reopened;
-        reopened.load(page.getPath());
+        reopened.load(local(page.document()->path()));
         QCOMPARE(reopened.asWeapon()->scripts.args[0].number, 77u);
         QCOMPARE(reopened.asWeapon()->scripts.args[0].flags, 0x80000001u);
 
@@ -464,7 +530,7 @@ private slots:
     void saveAsWithEmptyNameWritesNothing()
     {
         ProtoWidget page;
-        page.loadProto(local(weaponFile()));
+        openProto(page, weaponFile());
         child<QSpinBox>(page, "weaponRange")->setValue(4);
         const QStringList before = QDir(dir.path()).entryList(QDir::Files);
         const QByteArray original = FormatChecks::readFile(dir.filePath(QStringLiteral("weapon.pro")));
@@ -478,13 +544,13 @@ private slots:
     void failedSaveSaysSo()
     {
         ProtoWidget page;
-        page.loadProto(local(weaponFile()));
+        openProto(page, weaponFile());
         QDir(dir.path()).mkpath(QStringLiteral("taken.pro")); // a folder where the file should go
         ScriptedAnswerer answers;
         answers.fileNames << dir.filePath(QStringLiteral("taken.pro"));
         QTest::mouseClick(child<QPushButton>(page, "buttonSaveAs"), Qt::LeftButton);
         QCOMPARE(answers.count(QStringLiteral("message")), 1);
-        QCOMPARE(answers.last(QStringLiteral("message"))->title, QStringLiteral("Error saving file"));
+        QCOMPARE(answers.last(QStringLiteral("message"))->title, QStringLiteral("Save failed"));
         QVERIFY(QFileInfo(dir.filePath(QStringLiteral("taken.pro"))).isDir());
         QCOMPARE(QDir(dir.path()).entryList({QStringLiteral("taken.pro.*")}, QDir::Files), QStringList());
     }

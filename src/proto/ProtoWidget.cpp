@@ -2,8 +2,10 @@
 
 #include "Prompt.h"
 #include "ProtoDamagesWidget.h"
+#include "ProtoDocument.h"
 #include "ProtoScriptsWidget.h"
 #include "ProtoStaticData.h"
+#include "WheelGuard.h"
 #include "ui_ProtoWidget.h"
 
 #include <QFile>
@@ -66,7 +68,7 @@ std::vector<std::pair<QString, std::uint32_t>> choices(std::uint32_t count, std:
 } // namespace
 
 ProtoWidget::ProtoWidget(QWidget* parent)
-    : QWidget(parent)
+    : Page(parent)
     , ui(std::make_unique<Ui_ProtoWidget>())
 {
     ui->setupUi(this);
@@ -77,11 +79,53 @@ ProtoWidget::ProtoWidget(QWidget* parent)
     bindControls();
     fillChoiceLists();
     connectEdits();
+    WheelGuard::install(this);
     updateData();
     updateControls();
 }
 
 ProtoWidget::~ProtoWidget() = default;
+
+QStringList ProtoWidget::suffixes() const
+{
+    return {QStringLiteral("pro")};
+}
+
+QString ProtoWidget::fileFilter() const
+{
+    return tr("Arcanum Proto (*.pro);;All files (*)");
+}
+
+std::unique_ptr<Document> ProtoWidget::load(const QString& path, QString& error) const
+{
+    return ProtoDocument::load(path, error);
+}
+
+ProtoDocument* ProtoWidget::protoDocument() const
+{
+    return static_cast<ProtoDocument*>(document());
+}
+
+const arcanum::Proto& ProtoWidget::getProto() const
+{
+    return protoDocument() ? protoDocument()->proto() : empty;
+}
+
+Proto& ProtoWidget::model()
+{
+    return protoDocument() ? protoDocument()->proto() : empty;
+}
+
+void ProtoWidget::showDocument()
+{
+    if (ProtoDocument* shown = protoDocument()) {
+        // An undo or redo puts back a whole prototype: the form is filled again from it.
+        connect(shown, &Document::changed, this, &ProtoWidget::updateData);
+        connect(shown, &Document::modifiedChanged, this, &ProtoWidget::updateControls);
+    }
+    updateData();
+    updateControls();
+}
 
 void ProtoWidget::bindControls()
 {
@@ -217,31 +261,41 @@ void ProtoWidget::connectEdits()
     connect(ui->movableScripts, &ProtoScriptsWidget::beenEdited, this, &ProtoWidget::onScriptsEdited);
 }
 
-bool ProtoWidget::loadProto(const std::string& fromPath)
+namespace {
+
+// "movableWeightMagical" → "weight magical": the control's name without its group and kind, in words.
+QString fieldWords(const QObject* control)
 {
-    path = fromPath;
-    proto.load(fromPath);
-    editedFlag = false;
-    updateData();
-    updateControls();
-    return true;
+    QString name = control ? control->objectName() : QString();
+    for (const char* group : {"static", "movable", "weapon", "armor", "schematic"})
+        if (name.startsWith(QLatin1String(group)))
+            name = name.mid(int(qstrlen(group)));
+    for (const char* kind : {"Spin", "Combo", "Check"})
+        if (name.endsWith(QLatin1String(kind)))
+            name.chop(int(qstrlen(kind)));
+    QString words;
+    for (const QChar c : name) {
+        if (c.isUpper() && !words.isEmpty())
+            words += QLatin1Char(' ');
+        words += c.toLower();
+    }
+    return words;
 }
 
-bool ProtoWidget::saveProto()
-{
-    return saveProto(proto.getPath());
-}
+} // namespace
 
-bool ProtoWidget::saveProto(const std::string& toPath)
-{
-    return proto.save(toPath);
-}
-
+// The form is copied into the model as a whole and the difference recorded as one step named after the
+// control that changed; consecutive changes of one control merge (typing a number).
 void ProtoWidget::edited()
 {
-    if (updating)
+    if (updating || protoDocument() == nullptr)
         return;
-    editedFlag = true;
+    protoDocument()->beginEdit();
+    collectData();
+    const QObject* control = sender();
+    const QString field = fieldWords(control);
+    protoDocument()->recordEdit(field.isEmpty() ? tr("Edit prototype") : tr("Edit %1").arg(field), 3001,
+                                int(qHash(control ? control->objectName() : QString())));
     updateControls();
 }
 
@@ -257,40 +311,19 @@ void ProtoWidget::onScriptsEdited()
 
 void ProtoWidget::updateControls()
 {
-    const bool loaded = proto.isLoaded();
-    ui->buttonSave->setEnabled(loaded && editedFlag);
+    const bool loaded = protoDocument() != nullptr;
+    ui->buttonSave->setEnabled(loaded && protoDocument()->isModified());
     ui->buttonSaveAs->setEnabled(loaded);
 }
 
 void ProtoWidget::on_buttonSave_clicked()
 {
-    if (!proto.isLoaded())
-        return;
-    if (editedFlag)
-        collectData();
-    saveOrSay(proto.getPath());
+    save();
 }
 
 void ProtoWidget::on_buttonSaveAs_clicked()
 {
-    if (!proto.isLoaded())
-        return;
-    const QString dir = QFileInfo(QFile::decodeName(QByteArray::fromStdString(proto.getPath()))).absolutePath();
-    const QString name = Prompt::saveFileName(this, tr("Save Proto"), dir, tr("Arcanum Proto (*.pro)"));
-    if (name.isEmpty())
-        return;
-    if (editedFlag)
-        collectData();
-    saveOrSay(QFile::encodeName(name).toStdString());
-}
-
-bool ProtoWidget::saveOrSay(const std::string& to)
-{
-    if (saveProto(to))
-        return true;
-    Prompt::message(this, QMessageBox::Critical, tr("Error saving file"),
-                    tr("Could not save %1.").arg(QFile::decodeName(QByteArray::fromStdString(to))));
-    return false;
+    saveAs();
 }
 
 void ProtoWidget::updateData()
@@ -298,6 +331,7 @@ void ProtoWidget::updateData()
     QScopedValueRollback<bool> guard(updating, true);
     for (QGroupBox* group : blockGroups)
         group->hide();
+    const Proto& proto = getProto();
     if (!proto.isLoaded()) {
         ui->labelIndex->setText(tr("No item"));
         ui->labelItemType->setText(tr("No item"));
@@ -313,7 +347,7 @@ void ProtoWidget::updateData()
 
 void ProtoWidget::showHeader()
 {
-    const Proto::Header& head = proto.header();
+    const Proto::Header& head = model().header();
     ui->labelIndex->setText(QString::number(head.index));
     ui->labelItemType->setText(QString::fromStdString(Proto::itemTypeToString(Proto::ItemType(head.itemType))));
     ui->hexUnknown1->setLabel(QStringLiteral("Unknown1 [0x0006 - 0x0023]"));
@@ -325,6 +359,7 @@ void ProtoWidget::showHeader()
 
 void ProtoWidget::showBlock()
 {
+    Proto& proto = model();
     const std::uint32_t type = proto.header().itemType;
     // Item types in file order: the group of each type's own part.
     QGroupBox* const ownGroups[] = {ui->wallGroup,    ui->portalGroup,   ui->containerGroup, ui->sceneryGroup,
@@ -357,6 +392,7 @@ void ProtoWidget::fillObject(const ObjectControls& controls, ObjectData& object)
 
 void ProtoWidget::fillMovable(MovableData& movable)
 {
+    Proto& proto = model();
     showFields(movableSpins, movable);
     showFields(itemFlags(movable));
     ui->movableScripts->setScripts(&movable.scripts);
@@ -385,6 +421,7 @@ void ProtoWidget::fillWeapon(WeaponData& weapon)
 
 void ProtoWidget::collectData()
 {
+    Proto& proto = model();
     if (Proto::StaticData* object = proto.asStatic()) {
         collectObject(staticControls, *object);
     } else if (MovableData* movable = proto.asMovable()) {
@@ -403,6 +440,7 @@ void ProtoWidget::collectObject(const ObjectControls& controls, ObjectData& obje
 
 void ProtoWidget::collectMovable(MovableData& movable)
 {
+    Proto& proto = model();
     takeFields(movableSpins, movable);
     takeFields(itemFlags(movable));
     movable.scripts = ui->movableScripts->getScripts();

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "Page.h"
 #include "Proto.h"
 #include "ProtoFields.h"
 #include "ProtoMovableData.h"
-
-#include <QWidget>
 
 #include <array>
 #include <memory>
@@ -13,11 +12,12 @@
 
 class QGroupBox;
 class ProtoDamagesWidget;
+class ProtoDocument;
 class Ui_ProtoWidget;
 
 // The Proto tab: one prototype file as a form of the groups its item type has, saved in place or
 // under a new name. Raw parts show as hex; whatever the form does not show is written back as read.
-class ProtoWidget : public QWidget
+class ProtoWidget : public Page
 {
     Q_OBJECT
 
@@ -25,13 +25,15 @@ public:
     explicit ProtoWidget(QWidget* parent = nullptr);
     ~ProtoWidget() override;
 
-    bool loadProto(const std::string& path);
-    bool saveProto();
-    bool saveProto(const std::string& path);
-    // The file last asked for, whether or not it could be read.
-    std::string getPath() const { return path; }
-    bool isEdited() const { return editedFlag; }
-    const arcanum::Proto& getProto() const { return proto; }
+    QStringList suffixes() const override;
+    QString fileFilter() const override;
+    std::unique_ptr<Document> load(const QString& path, QString& error) const override;
+
+    ProtoDocument* protoDocument() const;
+    const arcanum::Proto& getProto() const;
+
+protected:
+    void showDocument() override;
 
 public slots:
     void edited();
@@ -77,7 +79,7 @@ private:
     void collectMovable(MovableData& movable);
     void collectWeapon(WeaponData& weapon);
     void updateControls();
-    bool saveOrSay(const std::string& to);
+    arcanum::Proto& model();
 
     std::vector<protofields::FlagField<std::uint32_t>> objectFlags(const ObjectControls& controls,
                                                                    ObjectData& object) const;
@@ -85,10 +87,9 @@ private:
     std::vector<protofields::FlagField<std::uint8_t>> weaponFlags(WeaponData& weapon) const;
 
     std::unique_ptr<Ui_ProtoWidget> ui;
-    arcanum::Proto proto;
-    std::string path;
+    // Shown while no document is open.
+    arcanum::Proto empty;
     bool updating = false;
-    bool editedFlag = false;
 
     std::vector<QGroupBox*> blockGroups;
     ObjectControls staticControls;

@@ -3,13 +3,15 @@
 #include <QDialog>
 
 ScriptedAnswerer::ScriptedAnswerer()
+    : previous(Prompt::answerer())
 {
     Prompt::setAnswerer(this);
 }
 
 ScriptedAnswerer::~ScriptedAnswerer()
 {
-    Prompt::setAnswerer(nullptr);
+    // An answerer made inside another one's scope hands the questions back to it.
+    Prompt::setAnswerer(previous);
 }
 
 int ScriptedAnswerer::count(const QString& kind) const

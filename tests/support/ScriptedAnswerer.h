@@ -21,7 +21,7 @@ public:
     };
 
     ScriptedAnswerer();  // installs itself
-    ~ScriptedAnswerer() override; // uninstalls itself
+    ~ScriptedAnswerer() override; // puts back the answerer it replaced
 
     // Answers are taken in order; when a queue is empty the question gets its default button,
     // a chooser is cancelled and a dialog is rejected.
@@ -41,4 +41,7 @@ public:
     QString fileName(const QString& kind, const QString& title, const QString& dir, const QString& filter) override;
     QColor color(const QColor& initial) override;
     int run(QDialog& dialog) override;
+
+private:
+    Prompt::Answerer* previous = nullptr;
 };

@@ -1,0 +1,72 @@
+#include "ProtoDocument.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <iostream>
+#include <sstream>
+
+namespace {
+
+// The prototype model reads and writes files only; a scratch folder stands in for bytes in memory.
+QString scratchFile()
+{
+    static QTemporaryDir scratch;
+    return scratch.filePath(QStringLiteral("document.pro"));
+}
+
+std::string local(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+// The model reports on standard output; the document reports through its return values.
+template <typename Work>
+void quietly(Work work)
+{
+    std::ostringstream sink;
+    std::streambuf* previous = std::cout.rdbuf(sink.rdbuf());
+    work();
+    std::cout.rdbuf(previous);
+}
+
+} // namespace
+
+std::unique_ptr<ProtoDocument> ProtoDocument::load(const QString& path, QString& error)
+{
+    std::unique_ptr<ProtoDocument> document(new ProtoDocument(path));
+    quietly([&] { document->model.load(local(path)); });
+    if (document->model.isLoaded())
+        return document;
+    error = tr("%1 (at byte %2)")
+                .arg(QString::fromStdString(document->model.loadFailure()))
+                .arg(document->model.loadFailureOffset());
+    return nullptr;
+}
+
+ProtoDocument::ProtoDocument(const QString& path)
+    : Document(path)
+{
+}
+
+bool ProtoDocument::serialize(QByteArray& bytes, QString& error) const
+{
+    bool saved = false;
+    quietly([&] { saved = model.save(local(scratchFile())); });
+    QFile file(scratchFile());
+    if (!saved || !file.open(QIODevice::ReadOnly)) {
+        error = tr("the prototype could not be written");
+        return false;
+    }
+    bytes = file.readAll();
+    return true;
+}
+
+void ProtoDocument::restoreModel(const QByteArray& bytes)
+{
+    QFile file(scratchFile());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(bytes);
+    file.close();
+    quietly([&] { model.load(local(scratchFile())); });
+}
