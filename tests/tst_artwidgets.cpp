@@ -2,6 +2,8 @@
 #include "ArtEditorWidget.h"
 #include "ArtHeaderWidget.h"
 #include "ArtWidget.h"
+#include "ArtDocument.h"
+#include "UndoChecks.h"
 #include "ArtTestSupport.h"
 #include "Artfile.h"
 #include "DialogEditPalette.h"
@@ -114,9 +116,18 @@ private:
         page->show();
         if (!QTest::qWaitForWindowExposed(page.get()))
             qWarning("page not exposed");
-        page->loadArt(QFile::encodeName(file).toStdString());
+        openArt(*page, file);
         return page;
     }
+
+    static bool openArt(ArtWidget& page, const QString& file)
+    {
+        ScriptedAnswerer quiet; // a refused file is reported in a message box
+        return page.openFile(file);
+    }
+
+    static Artfile& art(ArtWidget& page) { return page.artDocument()->art(); }
+    static bool modified(const ArtWidget& page) { return page.document() && page.document()->isModified(); }
 
 private slots:
     void initTestCase() { QVERIFY(dir.isValid()); }
@@ -156,24 +167,59 @@ private slots:
         QVERIFY(child<QCheckBox>(*page, "checkAnimated")->isChecked());
     }
 
-    void pageWithoutFileIsDisabled()
+    void refusedFilesSayWhy()
     {
         const QString junk = path(QStringLiteral("junk.art"));
         QVERIFY(FormatChecks::writeFile(junk, QByteArray("{1}{x}\r\n")));
         ArtWidget page;
-        page.loadArt(QFile::encodeName(junk).toStdString());
-        QCOMPARE(QString::fromStdString(page.getPath()), junk);
+        ScriptedAnswerer answers;
+        QVERIFY(!page.openFile(junk));
+        QVERIFY(answers.last(QStringLiteral("message"))->text.contains(QStringLiteral("(at byte")));
+        QVERIFY(!page.document());
         QVERIFY(!page.headerWidget()->isEnabled());
         QVERIFY(!child<QPushButton>(page, "buttonSave")->isEnabled());
         QVERIFY(!child<QPushButton>(page, "frameButtonNew")->isEnabled());
-        QVERIFY(child<QLabel>(page, "labelFile")->text().contains(QStringLiteral("Could not load junk.art")));
 
-        page.loadArt(QFile::encodeName(writeArt(path(QStringLiteral("good.art")), 1, 1, 1)).toStdString());
-        QVERIFY(page.getArtfile().isLoaded());
-        page.loadArt(QFile::encodeName(path(QStringLiteral("missing.art"))).toStdString());
-        QVERIFY(!page.getArtfile().isLoaded());
-        QVERIFY(!child<QPushButton>(page, "buttonSave")->isEnabled());
-        QVERIFY(child<QLabel>(page, "labelFile")->text().contains(QStringLiteral("Could not load missing.art")));
+        const QString good = writeArt(path(QStringLiteral("good.art")), 1, 1, 1);
+        QVERIFY(page.openFile(good));
+        const QString cut = path(QStringLiteral("cut.art"));
+        QVERIFY(FormatChecks::writeFile(cut, FormatChecks::readFile(good).left(200)));
+        QVERIFY(!page.openFile(cut));
+        QVERIFY2(answers.last(QStringLiteral("message"))->text.contains(QStringLiteral("cut.art")),
+                 qPrintable(answers.last(QStringLiteral("message"))->text));
+        QCOMPARE(page.document()->path(), good); // the page keeps the file it showed
+    }
+
+    void everyEditUndoes_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("new frame") << "frameButtonNew";
+        QTest::newRow("delete frame") << "frameButtonDelete";
+        QTest::newRow("new palette") << "paletteButtonNew";
+        QTest::newRow("delete palette") << "paletteButtonDelete";
+    }
+
+    void everyEditUndoes()
+    {
+        QFETCH(QString, button);
+        auto page = openPage(8, 2, 2);
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes << QMessageBox::Yes;
+        QVERIFY(checkUndoRedo(*page->document(), [&] {
+            QTest::mouseClick(page->findChild<QPushButton*>(button), Qt::LeftButton);
+        }, 1));
+    }
+
+    void placementValuesUndoInOneStep()
+    {
+        auto page = openPage(8, 2, 1);
+        QList<QSpinBox*> spins = page->editorWidget()->findChildren<QSpinBox*>();
+        spins.removeIf([](QSpinBox* spin) { return spin->objectName() == QLatin1String("spinZoom"); });
+        QVERIFY(!spins.isEmpty());
+        QVERIFY(checkUndoRedo(*page->document(), [&] {
+            spins.first()->setValue(spins.first()->value() + 1);
+            spins.first()->setValue(spins.first()->value() + 1);
+        }, 1));
     }
 
     void deletingTheLastFrameSelectsTheOneBefore()
@@ -183,13 +229,13 @@ private slots:
         auto* frames = child<QListWidget>(*page, "listFrames");
         images->setCurrentRow(5);
         frames->setCurrentRow(2);
-        QVERIFY(!page->isModified());
+        QVERIFY(!modified(*page));
         QTest::mouseClick(child<QPushButton>(*page, "frameButtonDelete"), Qt::LeftButton);
-        QCOMPARE(page->getArtfile().getFrameCount(), 2u);
+        QCOMPARE(art(*page).getFrameCount(), 2u);
         QCOMPARE(frames->count(), 2);
         QCOMPARE(frames->currentRow(), 1);
         QCOMPARE(images->currentRow(), 5);
-        QVERIFY(page->isModified());
+        QVERIFY(modified(*page));
         QCOMPARE(indices(page->editorWidget()->frameImage()).at(0), char(51));
 
         QTest::mouseClick(child<QPushButton>(*page, "frameButtonNew"), Qt::LeftButton);
@@ -199,7 +245,7 @@ private slots:
         images->setCurrentRow(3);
         frames->setCurrentRow(1);
         QTest::mouseClick(child<QPushButton>(*page, "imageButtonDelete"), Qt::LeftButton);
-        QCOMPARE(page->getArtfile().getImageCount(), 7u);
+        QCOMPARE(art(*page).getImageCount(), 7u);
         QCOMPARE(images->currentRow(), 3);
         QCOMPARE(frames->currentRow(), 1);
         QCOMPARE(indices(page->editorWidget()->frameImage()).at(0), char(41));
@@ -210,11 +256,11 @@ private slots:
         auto page = openPage(8, 1, 2);
         child<QListWidget>(*page, "listPalettes")->setCurrentRow(1);
         QTest::mouseClick(child<QPushButton>(*page, "paletteButtonNew"), Qt::LeftButton);
-        Artfile& art = page->getArtfile();
-        QCOMPARE(art.getPaletteCount(), 3u);
-        QCOMPARE(art.getPalette(2)[7], art.getPalette(1)[7]);
+        Artfile& model = art(*page);
+        QCOMPARE(model.getPaletteCount(), 3u);
+        QCOMPARE(model.getPalette(2)[7], model.getPalette(1)[7]);
         QCOMPARE(child<QListWidget>(*page, "listPalettes")->currentRow(), 2);
-        QCOMPARE(page->editorWidget()->frameImage().color(0), art.getPalette(2)[0].toRgb());
+        QCOMPARE(page->editorWidget()->frameImage().color(0), model.getPalette(2)[0].toRgb());
     }
 
     void placementSpinsEditOnlyWhatMoved()
@@ -228,16 +274,16 @@ private slots:
         QVERIFY(far.save(file));
 
         ArtWidget page;
-        page.loadArt(QFile::encodeName(file).toStdString());
+        openArt(page, file);
         QCOMPARE(child<QSpinBox>(page, "spinLeft")->value(), 200000);
         QCOMPARE(child<QSpinBox>(page, "spinDY")->value(), -7);
-        QVERIFY(!page.isModified());
+        QVERIFY(!modified(page));
         child<QSpinBox>(page, "spinTop")->setValue(12);
-        const Artfile::Image* frame = page.getArtfile().getImage(0, 0);
+        const Artfile::Image* frame = art(page).getImage(0, 0);
         QCOMPARE(frame->top, 12);
         QCOMPARE(frame->left, 300000);
         QCOMPARE(frame->dy, -7);
-        QVERIFY(page.isModified());
+        QVERIFY(modified(page));
     }
 
     void copyAndPasteGoThroughTheClipboard()
@@ -249,14 +295,14 @@ private slots:
         QTest::mouseClick(child<QPushButton>(*page, "buttonToClipboard"), Qt::LeftButton);
         const QImage copied = QGuiApplication::clipboard()->image();
         QCOMPARE(copied.format(), QImage::Format_Indexed8);
-        QCOMPARE(indices(copied), page->getArtfile().getImage(2, 0)->data);
-        QCOMPARE(copied.color(9), page->getArtfile().getPalette(1)[9].toRgb());
+        QCOMPARE(indices(copied), art(*page).getImage(2, 0)->data);
+        QCOMPARE(copied.color(9), art(*page).getPalette(1)[9].toRgb());
 
         QImage source(10, 7, QImage::Format_RGB32);
         source.fill(qRgb(200, 10, 10));
         QGuiApplication::clipboard()->setImage(source);
         QTest::mouseClick(child<QPushButton>(*page, "buttonFromClipboard"), Qt::LeftButton);
-        const Artfile::Image* frame = page->getArtfile().getImage(2, 0);
+        const Artfile::Image* frame = art(*page).getImage(2, 0);
         QCOMPARE(frame->width, 10u);
         QCOMPARE(frame->height, 7u);
         QCOMPARE(frame->dataSize, 70u);
@@ -264,7 +310,7 @@ private slots:
         QCOMPARE(frame->dx, -4);
         QCOMPARE(child<QSpinBox>(*page, "spinDX")->value(), -4);
         QCOMPARE(page->editorWidget()->frameImage().size(), QSize(10, 7));
-        QVERIFY(page->isModified());
+        QVERIFY(modified(*page));
 
         // An indexed image comes back with its indices untouched.
         QGuiApplication::clipboard()->setImage(copied);
@@ -295,21 +341,22 @@ private slots:
         auto page = openPage(8, 2, 1);
         QTest::mouseClick(child<QPushButton>(*page, "frameButtonNew"), Qt::LeftButton);
         ScriptedAnswerer answers;
-        QTest::mouseClick(child<QPushButton>(*page, "buttonSave"), Qt::LeftButton);
-        QVERIFY(page->isModified());
+        QTest::mouseClick(child<QPushButton>(*page, "buttonSaveAs"), Qt::LeftButton);
+        QVERIFY(modified(*page));
         const QString target = path(QStringLiteral("saved \u00e4.art"));
         answers.fileNames << target;
-        QTest::mouseClick(child<QPushButton>(*page, "buttonSave"), Qt::LeftButton);
+        QTest::mouseClick(child<QPushButton>(*page, "buttonSaveAs"), Qt::LeftButton);
         QCOMPARE(answers.count(QStringLiteral("save")), 2);
-        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save"));
+        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save As"));
         QVERIFY(answers.last(QStringLiteral("save"))->text.endsWith(
-            QStringLiteral("|Arcanum Art files (*.art);;All files (*.*)")));
-        QVERIFY(!page->isModified());
-        QCOMPARE(FormatChecks::readFile(target), page->getArtfile().toBytes());
+            QStringLiteral("|Arcanum Art files (*.art);;All files (*)")));
+        QCOMPARE(page->document()->path(), target);
+        QVERIFY(!modified(*page));
+        QCOMPARE(FormatChecks::readFile(target), art(*page).toBytes());
 
         ArtWidget reopened;
-        reopened.loadArt(QFile::encodeName(target).toStdString());
-        QCOMPARE(reopened.getArtfile().getFrameCount(), 3u);
+        openArt(reopened, target);
+        QCOMPARE(art(reopened).getFrameCount(), 3u);
     }
 
     void zoomChangesOnlyTheView()
@@ -353,16 +400,16 @@ private slots:
         QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
         QCOMPARE(answers.last(QStringLiteral("dialog"))->title, QStringLiteral("Edit palette"));
         QCOMPARE(answers.last(QStringLiteral("color"))->text, QColor(37, 255 - 37, 1).name());
-        QCOMPARE(page->getArtfile().getPalette(1)[37], (Artfile::Colour{30, 20, 10, 0}));
-        QCOMPARE(page->getArtfile().getPalette(1)[36].extra, quint8(0x11));
+        QCOMPARE(art(*page).getPalette(1)[37], (Artfile::Colour{30, 20, 10, 0}));
+        QCOMPARE(art(*page).getPalette(1)[36].extra, quint8(0x11));
         QCOMPARE(page->editorWidget()->frameImage().color(37), qRgb(10, 20, 30));
-        QVERIFY(page->isModified());
+        QVERIFY(modified(*page));
     }
 
     void cancelledPaletteDialogChangesNothing()
     {
         auto page = openPage(8, 1, 1);
-        const QByteArray before = page->getArtfile().toBytes();
+        const QByteArray before = art(*page).toBytes();
         const QString aap = path(QStringLiteral("other.aap"));
         Artfile::Palette other;
         fillPalette(other, 3);
@@ -385,8 +432,8 @@ private slots:
         QVERIFY(!page->headerWidget()->editPalette(0));
         QCOMPARE(answers.count(QStringLiteral("open")), 1);
         QCOMPARE(answers.last(QStringLiteral("open"))->title, QStringLiteral("Load Palette"));
-        QCOMPARE(page->getArtfile().toBytes(), before);
-        QVERIFY(!page->isModified());
+        QCOMPARE(art(*page).toBytes(), before);
+        QVERIFY(!modified(*page));
     }
 
     void paletteFileRoundTrips()

@@ -96,6 +96,17 @@ void Artfile::setHeaderWord(unsigned offset, quint32 value)
 // ---------------------------------------------------------------------------------------------
 // Reading
 
+bool Artfile::loadBytes(const QByteArray& bytes)
+{
+    clear();
+    failure.clear();
+    failureOffset = 0;
+    if (parse(bytes))
+        return true;
+    clear();
+    return false;
+}
+
 void Artfile::load(std::string newPath)
 {
     QFile file(QFile::decodeName(QByteArray::fromStdString(newPath)));

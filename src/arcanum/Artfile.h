@@ -67,6 +67,9 @@ public:
     void load(std::string path);
     // Writes the file through a temporary file; false when it is empty or could not be written.
     bool save(const QString& path);
+    // Reads the bytes of an art file as load reads a file; false (and an empty model with the reason in
+    // loadFailure) for bytes that are not one.
+    bool loadBytes(const QByteArray& bytes);
     // The bytes save would write (empty when there are no images).
     QByteArray toBytes() const;
     bool isLoaded() const { return !images.empty(); }

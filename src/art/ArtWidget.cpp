@@ -1,15 +1,17 @@
 #include "ArtWidget.h"
 
+#include "ArtDocument.h"
 #include "ArtEditorWidget.h"
 #include "ArtHeaderWidget.h"
-#include "Prompt.h"
+#include "WheelGuard.h"
 #include "ui_ArtWidget.h"
 
-#include <QFile>
-#include <QFileInfo>
+namespace {
+const int FRAME_MERGE_ID = 4001;
+}
 
 ArtWidget::ArtWidget(QWidget* parent)
-    : QWidget(parent)
+    : Page(parent)
     , ui(std::make_unique<Ui_ArtWidget>())
 {
     ui->setupUi(this);
@@ -22,92 +24,92 @@ ArtWidget::ArtWidget(QWidget* parent)
     ui->pageLayout->addWidget(editor, 1);
 
     connect(header, &ArtHeaderWidget::selectionChanged, this, &ArtWidget::selectionChanged);
-    connect(header, &ArtHeaderWidget::paletteEdited, this, &ArtWidget::paletteEdited);
-    connect(header, &ArtHeaderWidget::imagesAltered, this, &ArtWidget::imagesAltered);
-    connect(header, &ArtHeaderWidget::framesAltered, this, &ArtWidget::framesAltered);
-    connect(editor, &ArtEditorWidget::edited, this, &ArtWidget::frameEdited);
-    updateControls();
+    connect(header, &ArtHeaderWidget::paletteEdited, this,
+            [this](uint palette) { recordEdit(tr("Edit palette %1").arg(palette + 1)); });
+    connect(header, &ArtHeaderWidget::imagesAltered, this, [this] { recordEdit(tr("Add or delete image")); });
+    connect(header, &ArtHeaderWidget::framesAltered, this, [this] { recordEdit(tr("Add or delete frame")); });
+    connect(editor, &ArtEditorWidget::edited, this, [this](uint image, uint frame) {
+        recordEdit(tr("Edit frame %1 of image %2").arg(frame + 1).arg(image + 1), FRAME_MERGE_ID,
+                   int(image * 10000 + frame));
+    });
+    WheelGuard::install(this);
+    refresh();
 }
 
 ArtWidget::~ArtWidget() = default;
 
-void ArtWidget::loadArt(const std::string& fullPath)
+QStringList ArtWidget::suffixes() const
 {
-    path = fullPath;
-    artfile.load(fullPath);
-    // A file that could not be opened leaves the model as it was; the page must not go on
-    // showing (and saving) the previous file under the new name.
-    if (artfile.getPath() != fullPath)
-        artfile.clear();
-    header->setArtfile(&artfile);
-    editor->setArtfile(&artfile);
-    modified = false;
+    return {QStringLiteral("art")};
+}
+
+QString ArtWidget::fileFilter() const
+{
+    return tr("Arcanum Art files (*.art);;All files (*)");
+}
+
+std::unique_ptr<Document> ArtWidget::load(const QString& path, QString& error) const
+{
+    return ArtDocument::load(path, error);
+}
+
+ArtDocument* ArtWidget::artDocument() const
+{
+    return static_cast<ArtDocument*>(document());
+}
+
+void ArtWidget::showDocument()
+{
+    if (ArtDocument* shown = artDocument()) {
+        shown->beginEdit();
+        // An undo or redo puts back a whole art file: the lists and the frame are shown again.
+        connect(shown, &Document::changed, this, &ArtWidget::refresh);
+        connect(shown, &Document::modifiedChanged, this, &ArtWidget::updateControls);
+    }
+    refresh();
+}
+
+void ArtWidget::refresh()
+{
+    arcanum::Artfile* art = artDocument() ? &artDocument()->art() : &empty;
+    header->setArtfile(art);
+    editor->setArtfile(art);
     updateControls();
 }
 
-QString ArtWidget::displayName() const
+void ArtWidget::recordEdit(const QString& text, int mergeId, int key)
 {
-    return QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
+    if (artDocument() != nullptr)
+        artDocument()->recordEdit(text, mergeId, key);
 }
 
 void ArtWidget::updateControls()
 {
-    const bool loaded = artfile.isLoaded();
+    const ArtDocument* shown = artDocument();
+    const bool loaded = shown != nullptr && shown->art().isLoaded();
     header->setEnabled(loaded);
     editor->setEnabled(loaded);
-    ui->buttonSave->setEnabled(loaded);
+    ui->buttonSave->setEnabled(loaded && shown->isModified());
+    ui->buttonSaveAs->setEnabled(loaded);
     ui->checkAnimated->setEnabled(loaded);
-    ui->checkAnimated->setChecked(loaded && artfile.isAnimated());
+    ui->checkAnimated->setChecked(loaded && shown->art().isAnimated());
     if (loaded)
-        ui->labelFile->setText(QStringLiteral("<b>%1</b>%2").arg(displayName().toHtmlEscaped(),
-                                                                 modified ? QStringLiteral(" *") : QString()));
-    else if (!path.empty())
-        ui->labelFile->setText(tr("Could not load %1.").arg(displayName()));
+        ui->labelFile->setText(QStringLiteral("<b>%1</b>").arg(shown->displayName().toHtmlEscaped()));
+    else
+        ui->labelFile->setText(tr("No art file open: double-click one in the list."));
 }
 
 void ArtWidget::on_buttonSave_clicked()
 {
-    const QString dir = QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).absolutePath();
-    const QString name = Prompt::saveFileName(this, tr("Save"), dir, tr("Arcanum Art files (*.art);;All files (*.*)"));
-    if (name.isEmpty())
-        return;
-    if (!artfile.save(name)) {
-        Prompt::message(this, QMessageBox::Warning, tr("Save"), tr("Error saving file"));
-        return;
-    }
-    path = QFile::encodeName(name).toStdString();
-    artfile.setPath(path);
-    modified = false;
-    updateControls();
+    save();
+}
+
+void ArtWidget::on_buttonSaveAs_clicked()
+{
+    saveAs();
 }
 
 void ArtWidget::selectionChanged(uint palette, uint image, uint frame)
 {
     editor->setFrame(palette, image, frame);
-}
-
-void ArtWidget::setModified()
-{
-    modified = true;
-    updateControls();
-}
-
-void ArtWidget::paletteEdited(uint /*palette*/)
-{
-    setModified();
-}
-
-void ArtWidget::imagesAltered()
-{
-    setModified();
-}
-
-void ArtWidget::framesAltered()
-{
-    setModified();
-}
-
-void ArtWidget::frameEdited(uint /*image*/, uint /*frame*/)
-{
-    setModified();
 }

@@ -1,18 +1,17 @@
 #pragma once
 
 #include "Artfile.h"
-
-#include <QWidget>
+#include "Page.h"
 
 #include <memory>
-#include <string>
 
+class ArtDocument;
 class Ui_ArtWidget;
 class ArtHeaderWidget;
 class ArtEditorWidget;
 
 // The Art tab: owns the art file on show, lists its parts above and shows the selected frame below.
-class ArtWidget : public QWidget
+class ArtWidget : public Page
 {
     Q_OBJECT
 
@@ -20,31 +19,31 @@ public:
     explicit ArtWidget(QWidget* parent = nullptr);
     ~ArtWidget() override;
 
-    void loadArt(const std::string& path);
-    // The file the page was last asked to show (or saved as).
-    std::string getPath() const { return path; }
-    bool isModified() const { return modified; }
-    arcanum::Artfile& getArtfile() { return artfile; }
+    QStringList suffixes() const override;
+    QString fileFilter() const override;
+    std::unique_ptr<Document> load(const QString& path, QString& error) const override;
+
+    ArtDocument* artDocument() const;
     ArtHeaderWidget* headerWidget() const { return header; }
     ArtEditorWidget* editorWidget() const { return editor; }
 
+protected:
+    void showDocument() override;
+
 private slots:
     void on_buttonSave_clicked();
+    void on_buttonSaveAs_clicked();
     void selectionChanged(uint palette, uint image, uint frame);
-    void paletteEdited(uint palette);
-    void imagesAltered();
-    void framesAltered();
-    void frameEdited(uint image, uint frame);
 
 private:
-    void setModified();
+    // Records what the lists or the frame editor changed as one step named text.
+    void recordEdit(const QString& text, int mergeId = -1, int key = 0);
+    void refresh();
     void updateControls();
-    QString displayName() const;
 
     std::unique_ptr<Ui_ArtWidget> ui;
-    arcanum::Artfile artfile;
+    // Shown while no document is open.
+    arcanum::Artfile empty;
     ArtHeaderWidget* header = nullptr;
     ArtEditorWidget* editor = nullptr;
-    std::string path;
-    bool modified = false;
 };

@@ -1,11 +1,12 @@
 #include "DialogEditPalette.h"
 
 #include "Prompt.h"
-#include "SafeSave.h"
+#include "PaletteFile.h"
 #include "gui.h"
 #include "ui_DialogEditPalette.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -179,21 +180,22 @@ void DialogEditPalette::on_buttonLoad_clicked()
 
 bool DialogEditPalette::saveToFile(const QString& path)
 {
-    const arcanum::SafeSave::Result result = arcanum::SafeSave::write(path, Artfile::paletteToBytes(colours));
-    if (result == arcanum::SafeSave::OpenFailed)
-        std::cout << "Cannot open file: " << QFile::encodeName(path).constData() << std::endl;
-    return result == arcanum::SafeSave::Saved;
+    QString error;
+    if (arcanum::PaletteFile::write(path, colours, error))
+        return true;
+    Prompt::message(this, QMessageBox::Warning, tr("Save failed"),
+                    tr("Could not save %1: %2").arg(QDir::toNativeSeparators(path), error));
+    return false;
 }
 
 bool DialogEditPalette::loadFromFile(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        std::cout << "Cannot open file: " << QFile::encodeName(path).constData() << std::endl;
-        return false;
-    }
-    Artfile::paletteFromBytes(file.read(Artfile::PALETTE_BYTES), colours);
-    return true;
+    QString error;
+    if (arcanum::PaletteFile::read(path, colours, error))
+        return true;
+    Prompt::message(this, QMessageBox::Warning, tr("Cannot open file"),
+                    tr("Could not open %1: %2").arg(QDir::toNativeSeparators(path), error));
+    return false;
 }
 
 void DialogEditPalette::on_buttonOk_clicked()
