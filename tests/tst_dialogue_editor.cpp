@@ -1,5 +1,9 @@
 // The Dialogue tab driven offscreen: trees, opening lines, editing them and saving as.
 #include "DialogueEditWidget.h"
+#include "Document.h"
+#include "UndoChecks.h"
+
+#include <QUndoStack>
 #include "DialogueTestsWidget.h"
 #include "DlgNpcLineEditWidget.h"
 #include "DlgPcLineEditWidget.h"
@@ -84,8 +88,21 @@ private:
     QString loadSample(const QString& name = QStringLiteral("sample.dlg"))
     {
         const QString path = write(name, sample);
-        page->loadFile(path);
+        openFile(path);
         return path;
+    }
+
+    bool openFile(const QString& path)
+    {
+        ScriptedAnswerer quiet; // a file that cannot be read is reported in a message box
+        return page->openFile(path);
+    }
+
+    bool saveTo(const QString& target)
+    {
+        ScriptedAnswerer answers;
+        answers.fileNames << target;
+        return page->saveAs();
     }
 
     void doubleClick(QTreeWidget* tree, QTreeWidgetItem* item)
@@ -188,7 +205,7 @@ private slots:
 
     void pcLineBeforeEveryNpcLine()
     {
-        page->loadFile(write(QStringLiteral("early.dlg"), "\t{1}{Early.}{}{1}{}{2}{}\r\n"
+        openFile(write(QStringLiteral("early.dlg"), "\t{1}{Early.}{}{1}{}{2}{}\r\n"
                                                           "{2}{Hello.}{}{}{}{}{}\r\n"
                                                           "\t{2}{Same index.}{}{1}{}{0}{}\r\n"
                                                           "\t{3}{Bye.}{}{1}{}{0}{}\r\n"
@@ -227,7 +244,7 @@ private slots:
         QVERIFY(child<QLabel>("labelLineErrors")->isVisible());
         QVERIFY(child<QLabel>("labelLineErrors")->text().contains(QStringLiteral("opcode &#x27;zz&#x27; is unknown"))
                 || child<QLabel>("labelLineErrors")->text().contains(QStringLiteral("opcode 'zz' is unknown")));
-        QVERIFY(page->isModified());
+        QVERIFY(page->hasChanges());
     }
 
     void editAndSaveAs()
@@ -239,7 +256,7 @@ private slots:
         DialogueTestsWidget* money = testRow(0);
         money->findChild<QSpinBox*>(QStringLiteral("spin1"))->setValue(150);
         money->findChild<QComboBox*>(QStringLiteral("combo1"))->setCurrentIndex(1);
-        QVERIFY(page->isModified());
+        QVERIFY(page->hasChanges());
         QVERIFY(child<QLabel>("labelModified")->isVisible());
 
         ScriptedAnswerer answers;
@@ -247,18 +264,18 @@ private slots:
         answers.fileNames << target;
         QTest::mouseClick(child<QPushButton>("buttonSaveAs"), Qt::LeftButton);
         QCOMPARE(answers.count(QStringLiteral("message")), 0);
-        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save file"));
+        QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save As"));
         QCOMPARE(answers.last(QStringLiteral("save"))->text,
-                 QStringLiteral(".|Arcanum Dialogue files (*.dlg);;All files (*.*)"));
+                 source + QStringLiteral("|Arcanum Dialogue files (*.dlg);;All files (*.*)"));
 
         QByteArray expected = sample;
         expected.replace(LINE_6, LINE_6_EDITED);
         QCOMPARE(FormatChecks::readFile(target), expected);
         QCOMPARE(FormatChecks::readFile(source), sample);
         // The page now shows the saved file, with the edited line open again.
-        QCOMPARE(page->getPath(), target);
+        QCOMPARE(page->document()->path(), target);
         QCOMPARE(child<QLabel>("labelCurrentFile")->text(), QStringLiteral("saved.dlg"));
-        QVERIFY(!page->isModified());
+        QVERIFY(!page->hasChanges());
         QCOMPARE(pcForm()->getOriginalLine()->text(), QStringLiteral("Here is what I owe you. All of it."));
         QCOMPARE(pcForm()->getOriginalLine().data(), page->getModel()->getPCLine(6).data());
     }
@@ -280,39 +297,72 @@ private slots:
             typeAtEnd(text, QStringLiteral("x"));
             QTest::keyClick(text, Qt::Key_Backspace);
         }
-        QVERIFY(page->isModified());
+        QVERIFY(page->hasChanges());
         const QString target = dir.filePath(QStringLiteral("roundtrip.dlg"));
-        QVERIFY(page->saveFile(target));
-        QVERIFY(!page->isModified());
+        QVERIFY(saveTo(target));
+        QVERIFY(!page->hasChanges());
         QCOMPARE(FormatChecks::readFile(target), sample);
+    }
+
+    void loadWhileModified_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("opens");
+        QTest::addColumn<bool>("written");
+        QTest::newRow("save") << int(QMessageBox::Save) << true << true;
+        QTest::newRow("discard") << int(QMessageBox::Discard) << true << false;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
     }
 
     void loadWhileModified()
     {
-        loadSample();
+        QFETCH(int, answer);
+        QFETCH(bool, opens);
+        QFETCH(bool, written);
+        const QString source = loadSample();
         const arcanum::DialogueFileNew* model = page->getModel();
         QVERIFY(page->openPcLine(2));
         typeAtEnd(pcForm()->findChild<QPlainTextEdit*>(QStringLiteral("text")), QStringLiteral("!"));
-        QVERIFY(page->isModified());
+        QVERIFY(page->hasChanges());
 
         ScriptedAnswerer answers;
-        answers.buttons << QMessageBox::No;
+        answers.buttons << QMessageBox::StandardButton(answer) << QMessageBox::Yes;
         const QString other = write(QStringLiteral("other.dlg"), "{1}{Hi.}{}{}{}{}{}\r\n");
-        QVERIFY(!page->loadFile(other));
-        QCOMPARE(answers.last(QStringLiteral("question"))->title, QStringLiteral("Load new file?"));
-        QCOMPARE(answers.last(QStringLiteral("question"))->text,
-                 QStringLiteral("You have unsaved changes. Really load a new file?"));
-        QCOMPARE(answers.last(QStringLiteral("question"))->defaultButton, QMessageBox::No);
-        QCOMPARE(page->getModel(), model);
-        QCOMPARE(treeNPC()->topLevelItemCount(), 6);
-        QCOMPARE(pcForm()->getOriginalLine()->index(), 2);
-        QVERIFY(page->isModified());
+        QCOMPARE(page->openFile(other), opens);
+        QCOMPARE(answers.asked.first().text, QStringLiteral("Save changes to sample.dlg?"));
+        QCOMPARE(FormatChecks::readFile(source) != sample, written);
+        if (opens) {
+            QCOMPARE(treeNPC()->topLevelItemCount(), 1);
+            QVERIFY(!page->hasChanges());
+            QCOMPARE(currentForm()->objectName(), QStringLiteral("pageNoLine"));
+        } else {
+            QCOMPARE(page->getModel(), model);
+            QCOMPARE(pcForm()->getOriginalLine()->index(), 2);
+            QVERIFY(page->hasChanges());
+        }
+    }
 
-        answers.buttons << QMessageBox::Yes;
-        QVERIFY(page->loadFile(other));
-        QCOMPARE(treeNPC()->topLevelItemCount(), 1);
-        QVERIFY(!page->isModified());
-        QCOMPARE(currentForm()->objectName(), QStringLiteral("pageNoLine"));
+    void formEditsUndo_data()
+    {
+        QTest::addColumn<int>("lines");
+        QTest::newRow("one line") << 1;
+        QTest::newRow("three lines") << 3;
+    }
+
+    void formEditsUndo()
+    {
+        QFETCH(int, lines);
+        loadSample();
+        QVERIFY(checkUndoRedo(*page->document(), [&] {
+            const auto& pcLines = page->getModel()->pcLines();
+            QVERIFY(pcLines.size() >= lines);
+            for (int i = 0; i < lines; ++i) {
+                QVERIFY(page->openPcLine(pcLines.at(i)->index()));
+                typeAtEnd(pcForm()->findChild<QPlainTextEdit*>(QStringLiteral("text")), QStringLiteral(" Yes."));
+            }
+            QVERIFY(page->openNpcLine(1)); // leaving the last line applies its form
+        }, lines));
+        QCOMPARE(page->document()->undoStack()->undoText().left(10), QStringLiteral("Edit PC li"));
     }
 
     void openFileButton()
@@ -321,11 +371,11 @@ private slots:
         ScriptedAnswerer answers;
         answers.fileNames << path;
         QTest::mouseClick(child<QPushButton>("buttonOpenFile"), Qt::LeftButton);
-        QCOMPARE(answers.last(QStringLiteral("open"))->title, QStringLiteral("Open dialogue file"));
-        QCOMPARE(page->getPath(), path);
+        QCOMPARE(answers.last(QStringLiteral("open"))->title, QStringLiteral("Open"));
+        QCOMPARE(page->document()->path(), path);
         // Cancelling the chooser keeps the file.
         QTest::mouseClick(child<QPushButton>("buttonOpenFile"), Qt::LeftButton);
-        QCOMPARE(page->getPath(), path);
+        QCOMPARE(page->document()->path(), path);
         QCOMPARE(answers.count(QStringLiteral("message")), 0);
     }
 
@@ -334,19 +384,15 @@ private slots:
         loadSample();
         ScriptedAnswerer answers;
         const QString missing = dir.filePath(QStringLiteral("missing.dlg"));
-        QVERIFY(!page->loadFile(missing));
+        QVERIFY(!page->openFile(missing));
         const ScriptedAnswerer::Asked* message = answers.last(QStringLiteral("message"));
         QVERIFY(message);
-        QCOMPARE(message->title, QStringLiteral("Error loading file"));
-        QCOMPARE(message->text, QStringLiteral("Could not load %1.").arg(missing));
+        QCOMPARE(message->title, QStringLiteral("Cannot open file"));
+        QVERIFY(message->text.startsWith(QStringLiteral("Could not open %1: ").arg(missing)));
         QCOMPARE(message->icon, QMessageBox::Warning);
-        QVERIFY(!page->getModel());
-        QCOMPARE(treeNPC()->topLevelItemCount(), 0);
-        QCOMPARE(treePC()->topLevelItemCount(), 0);
-        QVERIFY(!treePC()->isEnabled());
-        QVERIFY(!child<QPushButton>("buttonSaveAs")->isEnabled());
-        QCOMPARE(child<QLabel>("labelCurrentFile")->text(), QStringLiteral("None"));
-        QVERIFY(!page->openPcLine(2));
+        // The page goes on showing the file it had.
+        QCOMPARE(child<QLabel>("labelCurrentFile")->text(), QStringLiteral("sample.dlg"));
+        QVERIFY(page->openPcLine(2));
     }
 
     void saveFailure()
@@ -360,11 +406,10 @@ private slots:
         QTest::mouseClick(child<QPushButton>("buttonSaveAs"), Qt::LeftButton);
         const ScriptedAnswerer::Asked* message = answers.last(QStringLiteral("message"));
         QVERIFY(message);
-        QCOMPARE(message->title, QStringLiteral("Error saving file"));
-        QCOMPARE(message->text, QStringLiteral("Could not save file to %1").arg(target));
-        QCOMPARE(message->icon, QMessageBox::Critical);
-        QVERIFY(page->isModified());
-        QVERIFY(page->getPath().endsWith(QStringLiteral("sample.dlg")));
+        QCOMPARE(message->title, QStringLiteral("Save failed"));
+        QVERIFY(message->text.startsWith(QStringLiteral("Could not save %1: ").arg(target)));
+        QVERIFY(page->hasChanges());
+        QVERIFY(page->document()->path().endsWith(QStringLiteral("sample.dlg")));
         // The edit went into the model all the same.
         QCOMPARE(page->getModel()->getNPCLine(30)->text(), QStringLiteral("Tobbin? He left for Tarant last week.!"));
     }
@@ -384,12 +429,13 @@ private slots:
     {
         const QByteArray bytes = "{1}{Hello.}{}{}{}{}{}\r\n{2}{Broken}{}\r\n";
         const QString path = write(QStringLiteral("broken.dlg"), bytes);
-        QVERIFY(page->loadFile(path));
+        QVERIFY(openFile(path));
         QVERIFY(child<QLabel>("labelUnread")->isVisible());
+        QVERIFY(page->document()->damage().contains(QStringLiteral("from file line 2 on")));
         QVERIFY(child<QLabel>("labelUnread")->text().contains(QStringLiteral("{2}{Broken}{}")));
         QCOMPARE(treeNPC()->topLevelItemCount(), 1);
         const QString target = dir.filePath(QStringLiteral("broken-saved.dlg"));
-        QVERIFY(page->saveFile(target));
+        QVERIFY(saveTo(target));
         QCOMPARE(FormatChecks::readFile(target), QByteArray(bytes + "\r\n"));
     }
 };

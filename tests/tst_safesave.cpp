@@ -1,7 +1,7 @@
 // Every format's save, made to fail: the file that was there before stays byte for byte and no
 // temporary file is left beside it.
 #include "Artfile.h"
-#include "DialogEditPalette.h"
+#include "PaletteFile.h"
 #include "DialogueFile.h"
 #include "DialogueFileNew.h"
 #include "FormatChecks.h"
@@ -75,10 +75,18 @@ Saver saverFor(const QString& kind)
         return [model](const QString& path) { return model->save(path); };
     }
     if (kind == QLatin1String("aap")) {
-        auto dialog = std::make_shared<DialogEditPalette>();
-        if (!dialog->loadFromFile(sample("art/sample_frost.aap")))
+        struct Colours
+        {
+            arcanum::Artfile::Palette palette;
+        };
+        auto colours = std::make_shared<Colours>();
+        QString error;
+        if (!arcanum::PaletteFile::read(sample("art/sample_frost.aap"), colours->palette, error))
             return nullptr;
-        return [dialog](const QString& path) { return dialog->saveToFile(path); };
+        return [colours](const QString& path) {
+            QString reason;
+            return arcanum::PaletteFile::write(path, colours->palette, reason);
+        };
     }
     if (kind == QLatin1String("pro")) {
         auto model = std::make_shared<arcanum::Proto>();

@@ -3,6 +3,7 @@
 #include "DialogAbout.h"
 #include "DialogOptions.h"
 #include "MainWindow.h"
+#include "Document.h"
 #include "Manager.h"
 #include "MesWidget.h"
 #include "ProtoWidget.h"

@@ -422,11 +422,16 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
+    event->acceptProposedAction();
+    openDropped(event->mimeData());
+}
+
+void MainWindow::openDropped(const QMimeData* mime)
+{
     QStringList paths;
-    for (const QUrl& url : event->mimeData()->urls())
+    for (const QUrl& url : mime->urls())
         if (url.isLocalFile())
             paths.append(url.toLocalFile());
-    event->acceptProposedAction();
     openFiles(paths);
 }
 

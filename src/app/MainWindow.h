@@ -16,6 +16,7 @@ class Document;
 class Page;
 class QAction;
 class QLineEdit;
+class QMimeData;
 class QTreeWidgetItem;
 class QUndoGroup;
 class QUndoView;
@@ -40,6 +41,8 @@ public:
 
     // Opens each file in the page of its kind; says which could not be opened.
     void openFiles(const QStringList& paths);
+    // Opens the local files a drop carries.
+    void openDropped(const QMimeData* mime);
     // Offers the copies a crash left behind (called once the window is shown).
     void offerRecovery();
     // Writes a recovery copy of every modified document now (the timer calls it every 30 s).

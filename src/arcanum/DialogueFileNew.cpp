@@ -51,12 +51,22 @@ bool DialogueFileNew::load()
         qWarning("Failed to open file for reading");
         return false;
     }
+    readBytes(file.readAll());
+    return true;
+}
+
+void DialogueFileNew::readBytes(const QByteArray& bytes)
+{
     // Decoded here because Qt 6 streams know no Windows code pages; reading without text mode also
     // keeps a lone "\r" inside a text, while the stream still ends lines at "\n" and "\r\n".
-    const QString text = TextCodec::decode(codec(), file.readAll());
+    const QString text = TextCodec::decode(codec(), bytes);
     TextLines lines(text);
     readLines(lines);
-    return true;
+}
+
+QTextCodec* DialogueFileNew::textCodec()
+{
+    return codec();
 }
 
 void DialogueFileNew::read(QTextStream& stream)

@@ -15,6 +15,7 @@
 #include <optional>
 
 class QFile;
+class QTextCodec;
 
 namespace arcanum {
 
@@ -231,6 +232,10 @@ public:
     bool load();
     // Reads entries until the end or until an entry cannot be read, replacing the lines.
     void read(QTextStream& stream);
+    // As load, from the bytes of a file.
+    void readBytes(const QByteArray& bytes);
+    // The encoding dialogue files are read and written in.
+    static QTextCodec* textCodec();
     // Writes every line, in index order, through a temporary file that replaces the file only when
     // complete; false (and the file untouched) when it cannot be written.
     bool save(QFile* file) const;

@@ -1,8 +1,10 @@
 #include "DialogueEditWidget.h"
 
+#include "DialogueDocument.h"
 #include "DlgNpcLineEditWidget.h"
 #include "DlgPcLineEditWidget.h"
 #include "Prompt.h"
+#include "WheelGuard.h"
 #include "ui_DialogueEditWidget.h"
 
 #include <QDir>
@@ -38,7 +40,7 @@ QString htmlLines(const QString& text)
 } // namespace
 
 DialogueEditWidget::DialogueEditWidget(QWidget* parent)
-    : QWidget(parent)
+    : Page(parent)
     , ui(std::make_unique<Ui_DialogueEditWidget>())
 {
     ui->setupUi(this);
@@ -51,12 +53,71 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     // The forms sit on the page itself, not on a panel of their own.
     ui->scrollForms->viewport()->setAutoFillBackground(false);
     ui->scrollFormsContents->setAutoFillBackground(false);
+    WheelGuard::install(this);
     closeLine();
     showUnreadText();
     updateControls();
 }
 
 DialogueEditWidget::~DialogueEditWidget() = default;
+
+QStringList DialogueEditWidget::suffixes() const
+{
+    return {QStringLiteral("dlg")};
+}
+
+QString DialogueEditWidget::fileFilter() const
+{
+    return tr(FILE_FILTER);
+}
+
+std::unique_ptr<Document> DialogueEditWidget::load(const QString& path, QString& error) const
+{
+    return DialogueDocument::load(path, error);
+}
+
+DialogueDocument* DialogueEditWidget::dialogueDocument() const
+{
+    return static_cast<DialogueDocument*>(document());
+}
+
+DialogueFileNew* DialogueEditWidget::getModel() const
+{
+    return dialogueDocument() ? &dialogueDocument()->dialogue() : nullptr;
+}
+
+bool DialogueEditWidget::hasChanges() const
+{
+    return dialogueDocument() != nullptr && (formEdited || dialogueDocument()->isModified());
+}
+
+void DialogueEditWidget::showDocument()
+{
+    formEdited = false;
+    closeLine();
+    if (DialogueDocument* shown = dialogueDocument()) {
+        shown->beginEdit();
+        // An undo or redo puts back whole lines: the trees and the open form are filled from them again.
+        connect(shown, &Document::changed, this, [this] {
+            const OpenLine wasOpen = open;
+            formEdited = false;
+            closeLine();
+            fillTrees();
+            reopen(wasOpen);
+            updateControls();
+        });
+        connect(shown, &Document::modifiedChanged, this, &DialogueEditWidget::updateControls);
+    }
+    showFileName();
+    fillTrees();
+    showUnreadText();
+    updateControls();
+}
+
+void DialogueEditWidget::commitPending()
+{
+    applyPendingForm();
+}
 
 void DialogueEditWidget::setUpTrees()
 {
@@ -82,7 +143,8 @@ void DialogueEditWidget::connectSignals()
 
 void DialogueEditWidget::updateControls()
 {
-    const bool loaded = dlgfile != nullptr;
+    const bool loaded = dialogueDocument() != nullptr;
+    const bool modified = hasChanges();
     const QList<QWidget*> editingControls = {ui->buttonSaveAs, ui->treeNPC, ui->treePC,
                                              ui->radioNPC, ui->radioPC, ui->formPanel};
     for (QWidget* widget : editingControls)
@@ -92,81 +154,33 @@ void DialogueEditWidget::updateControls()
 
 void DialogueEditWidget::setModifiedState()
 {
-    modified = true;
+    formEdited = true;
     updateControls();
 }
 
 void DialogueEditWidget::on_buttonOpenFile_clicked()
 {
-    qDebug("button_open");
-    loadFile(Prompt::openFileName(this, tr("Open dialogue file"), QStringLiteral("."), tr(FILE_FILTER)));
-}
-
-bool DialogueEditWidget::loadFile(const QString& newPath)
-{
-    if (newPath.isNull() || newPath.isEmpty()) {
-        qDebug("path.isNull() || path.isEmpty()");
-        return false;
-    }
-    if (modified && !yesNoDlg(tr("Load new file?"), tr("You have unsaved changes. Really load a new file?")))
-        return false;
-    closeLine();
-    const QFile file(newPath);
-    dlgfile = std::make_unique<DialogueFileNew>(&file);
-    modified = false;
-    const bool loaded = dlgfile->load();
-    if (loaded) {
-        dlgfile->sortLines();
-        path = newPath;
-    } else {
-        Prompt::message(this, QMessageBox::Warning, tr("Error loading file"), tr("Could not load %1.").arg(newPath));
-        dlgfile.reset();
-        path.clear();
-    }
-    showFileName();
-    fillTrees();
-    showUnreadText();
-    updateControls();
-    return loaded;
+    browse();
 }
 
 void DialogueEditWidget::showFileName()
 {
-    const QString name = QDir::fromNativeSeparators(path).section(QLatin1Char('/'), -1);
+    const QString name = document() ? document()->displayName() : QString();
     ui->labelCurrentFile->setText(name.isEmpty() ? tr("None") : name);
 }
 
 void DialogueEditWidget::on_buttonSaveAs_clicked()
 {
-    if (!dlgfile)
-        return;
-    const QString target = Prompt::saveFileName(this, tr("Save file"), QStringLiteral("."), tr(FILE_FILTER));
-    if (target.isEmpty())
-        return;
     const OpenLine wasOpen = open;
-    if (saveFile(target) && loadFile(target))
+    if (saveAs()) {
+        showFileName();
         reopen(wasOpen);
-}
-
-bool DialogueEditWidget::saveFile(const QString& target)
-{
-    if (!dlgfile)
-        return false;
-    saveLineEditChangesToMem();
-    QFile file(target);
-    if (!dlgfile->save(&file)) {
-        Prompt::message(this, QMessageBox::Critical, tr("Error saving file"), tr("Could not save file to %1").arg(target));
-        return false;
     }
-    modified = false;
-    updateControls();
-    return true;
 }
 
 void DialogueEditWidget::fillTrees()
 {
-    if (!dlgfile) {
-        qWarning("dlgfile == NULL");
+    if (!getModel()) {
         ui->treeNPC->clear();
         ui->treePC->clear();
         return;
@@ -185,6 +199,7 @@ void DialogueEditWidget::rebuildContents()
 void DialogueEditWidget::rebuildNPCList()
 {
     ui->treeNPC->clear();
+    const DialogueFileNew* dlgfile = getModel();
     if (!dlgfile)
         return;
     const QList<DialogueFileNew::NPCLinePointer>& npcLines = dlgfile->npcLines();
@@ -211,9 +226,9 @@ void DialogueEditWidget::rebuildNPCList()
 void DialogueEditWidget::rebuildPCList()
 {
     ui->treePC->clear();
-    if (!dlgfile)
+    if (!getModel())
         return;
-    for (const DialogueFileNew::PCLinePointer& line : dlgfile->pcLines())
+    for (const DialogueFileNew::PCLinePointer& line : getModel()->pcLines())
         ui->treePC->addTopLevelItem(pcItem(*line));
     selectOpenLine();
 }
@@ -288,19 +303,19 @@ void DialogueEditWidget::on_treePC_itemDoubleClicked(QTreeWidgetItem* item, int 
     if (!openPcLine(index))
         return;
     const int response = ui->pcForm->getOriginalLine()->responseLine();
-    if (!dlgfile->getNPCLine(response))
+    if (!getModel()->getNPCLine(response))
         qWarning("DialogueEditWidget::on_treePC_itemDoubleClicked(): no npc line with index %d found", response);
 }
 
 bool DialogueEditWidget::openPcLine(int index)
 {
-    const DialogueFileNew::PCLinePointer line = dlgfile ? dlgfile->getPCLine(index) : DialogueFileNew::PCLinePointer();
+    const DialogueFileNew::PCLinePointer line = getModel() ? getModel()->getPCLine(index) : DialogueFileNew::PCLinePointer();
     return line && openLine({LineKind::Pc, index}, ui->pcForm, [&] { ui->pcForm->fillWithData(line); });
 }
 
 bool DialogueEditWidget::openNpcLine(int index)
 {
-    const DialogueFileNew::NPCLinePointer line = dlgfile ? dlgfile->getNPCLine(index) : DialogueFileNew::NPCLinePointer();
+    const DialogueFileNew::NPCLinePointer line = getModel() ? getModel()->getNPCLine(index) : DialogueFileNew::NPCLinePointer();
     return line && openLine({LineKind::Npc, index}, ui->npcForm, [&] { ui->npcForm->fillWithData(line); });
 }
 
@@ -366,11 +381,16 @@ const DialogueFileNew::Line* DialogueEditWidget::openLineData() const
 
 void DialogueEditWidget::saveLineEditChangesToMem()
 {
-    if (!dlgfile)
+    DialogueDocument* shown = dialogueDocument();
+    if (!shown)
         return;
     if (DlgLineEditWidget* form = openForm())
         form->applyChangesToData();
-    dlgfile->sortLines();
+    shown->dialogue().sortLines();
+    formEdited = false;
+    // The form wrote into the line in place; the step is what the bytes became.
+    shown->recordEdit(open.kind == LineKind::Pc ? tr("Edit PC line %1").arg(open.index)
+                                                : tr("Edit NPC line %1").arg(open.index));
     emit npcListChanged();
     emit pcListChanged();
     showOpenLine();
@@ -395,6 +415,7 @@ QString DialogueEditWidget::describeOpenLine() const
         return text;
     }
     const DialogueFileNew::PCLinePointer line = ui->pcForm->getOriginalLine();
+    const DialogueFileNew* dlgfile = getModel();
     if (open.kind != LineKind::Pc || !line || !dlgfile)
         return QString();
     QString text = tr("<b>PC line %1</b>").arg(open.index);
@@ -427,7 +448,7 @@ void DialogueEditWidget::showLineErrors()
 
 void DialogueEditWidget::showUnreadText()
 {
-    const QString unread = dlgfile ? dlgfile->unreadText() : QString();
+    const QString unread = getModel() ? getModel()->unreadText() : QString();
     ui->labelUnread->setVisible(!unread.isEmpty());
     if (unread.isEmpty())
         return;

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "DialogueFileNew.h"
+#include "Page.h"
 
 #include <QString>
-#include <QWidget>
 
 #include <functional>
 #include <memory>
 
+class DialogueDocument;
 class DlgLineEditWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -16,7 +17,7 @@ class Ui_DialogueEditWidget;
 // The "Dialogue" tab: one .dlg file as two trees (NPC lines with the PC responses that follow them,
 // and all PC lines), and the form of the line opened from them. Changes in the form go into the line
 // when another line is opened and before saving.
-class DialogueEditWidget : public QWidget
+class DialogueEditWidget : public Page
 {
     Q_OBJECT
 
@@ -24,11 +25,11 @@ public:
     explicit DialogueEditWidget(QWidget* parent = nullptr);
     ~DialogueEditWidget() override;
 
-    // False when nothing was loaded: no path, the user kept unsaved changes, or the file could not
-    // be read (then the page is left empty).
-    bool loadFile(const QString& path);
-    // False (after telling the user) when the file could not be written; the page stays modified.
-    bool saveFile(const QString& path);
+    QStringList suffixes() const override;
+    QString fileFilter() const override;
+    std::unique_ptr<Document> load(const QString& path, QString& error) const override;
+
+    DialogueDocument* dialogueDocument() const;
     void fillTrees();
     void rebuildContents();
     // Writes the open form into its line and puts both line lists in index order.
@@ -38,9 +39,9 @@ public:
     bool openPcLine(int index);
     bool openNpcLine(int index);
 
-    arcanum::DialogueFileNew* getModel() const { return dlgfile.get(); }
-    QString getPath() const { return path; }
-    bool isModified() const { return modified; }
+    arcanum::DialogueFileNew* getModel() const;
+    // Changes in the document or in the open line's form, not yet applied.
+    bool hasChanges() const;
 
 signals:
     void npcListChanged();
@@ -57,6 +58,8 @@ public slots:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showDocument() override;
+    void commitPending() override;
 
 private:
     enum class LineKind { None, Pc, Npc };
@@ -86,8 +89,7 @@ private:
     QTreeWidgetItem* pcItem(const arcanum::DialogueFileNew::PCLine& line) const;
 
     std::unique_ptr<Ui_DialogueEditWidget> ui;
-    std::unique_ptr<arcanum::DialogueFileNew> dlgfile;
-    QString path;
-    bool modified = false;
+    // Set while the form has edits not yet applied to its line.
+    bool formEdited = false;
     OpenLine open;
 };

@@ -31,6 +31,7 @@ bool Page::openFile(const QString& path)
 
 bool Page::settle()
 {
+    commitPending();
     return !confirmAbandon || SaveGuard::settle(this, document(), fileFilter());
 }
 
@@ -47,6 +48,7 @@ bool Page::save()
 {
     if (document() == nullptr)
         return false;
+    commitPending();
     const QString path = document()->path();
     if (confirmOverwrite && !path.isEmpty() && QFileInfo::exists(path)
         && Prompt::question(this, tr("Save"), tr("Overwrite %1?").arg(document()->displayName()),
@@ -58,7 +60,10 @@ bool Page::save()
 
 bool Page::saveAs()
 {
-    return document() != nullptr && SaveGuard::saveAs(this, document(), fileFilter(), dialogFolder());
+    if (document() == nullptr)
+        return false;
+    commitPending();
+    return SaveGuard::saveAs(this, document(), fileFilter(), dialogFolder());
 }
 
 void Page::browse()

@@ -54,6 +54,9 @@ signals:
 protected:
     // Fill the controls from document() (null: clear them). Called after every replacement.
     virtual void showDocument() = 0;
+    // A page whose form holds changes not yet in the document applies them here; called before the
+    // document is asked whether it is modified, saved or replaced.
+    virtual void commitPending() {}
 
 private:
     QString dialogFolder() const;

@@ -8,6 +8,9 @@
 #include "MainWindow.h"
 #include "constants.h"
 
+#include "ArtDocument.h"
+#include "Document.h"
+
 #include <QFile>
 #include <QListWidget>
 
@@ -20,8 +23,8 @@ void openSprite(MainWindow& window)
     ShotRegistry::showTab(window, 3);
     ArtWidget* page = window.artPage();
     const QString path = QDir::current().absoluteFilePath(arcanum::ART_DIR + SPRITE);
-    if (page->getPath() != QFile::encodeName(path).toStdString())
-        page->loadArt(QFile::encodeName(path).toStdString());
+    if (!page->document() || page->document()->path() != path)
+        page->openFile(path);
 }
 
 void select(ArtWidget* page, const char* list, int row)
@@ -44,7 +47,9 @@ QWidget* palette(MainWindow& window)
 {
     openSprite(window);
     ArtWidget* page = window.artPage();
-    arcanum::Artfile& file = page->getArtfile();
+    if (!page->artDocument())
+        return nullptr;
+    arcanum::Artfile& file = page->artDocument()->art();
     const unsigned index = 1;
     arcanum::Artfile::Colour* colours = file.getPalette(index);
     if (!colours)

@@ -3,6 +3,7 @@
 #include "ShotRegistry.h"
 
 #include "DialogueEditWidget.h"
+#include "Document.h"
 #include "MainWindow.h"
 #include "constants.h"
 
@@ -15,8 +16,8 @@ DialogueEditWidget& dialogueOpen(MainWindow& window, const QString& relativePath
     ShotRegistry::showTab(window, 2);
     DialogueEditWidget& page = *window.dialoguePage();
     const QString path = QDir::current().absoluteFilePath(relativePath);
-    if (page.getPath() != path)
-        page.loadFile(path);
+    if (!page.document() || page.document()->path() != path)
+        page.openFile(path);
     return page;
 }
 

@@ -6,18 +6,18 @@
 #include "constants.h"
 
 #include <QDir>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTreeWidget>
 
 namespace {
 
 void selectCell(MesWidget& page, int row, int column)
 {
-    auto* table = page.findChild<QTableWidget*>(QStringLiteral("table"));
-    if (!table || row >= table->rowCount())
+    auto* table = page.findChild<QTableView*>(QStringLiteral("table"));
+    if (!table || row >= table->model()->rowCount())
         return;
-    table->setCurrentCell(row, column);
-    table->scrollToItem(table->item(row, column));
+    table->setCurrentIndex(table->model()->index(row, column));
+    table->scrollTo(table->currentIndex());
 }
 
 QWidget* messages(MainWindow& window)
@@ -33,7 +33,7 @@ QWidget* messages(MainWindow& window)
 QWidget* dialogueTable(MainWindow& window)
 {
     ShotRegistry::showTab(window, 1);
-    window.mesPage()->loadMes(QDir::current().absoluteFilePath(arcanum::DLG_DIR + QStringLiteral("sample_table.dlg")));
+    window.mesPage()->openFile(QDir::current().absoluteFilePath(arcanum::DLG_DIR + QStringLiteral("sample_table.dlg")));
     selectCell(*window.mesPage(), 1, 3);
     return nullptr;
 }
