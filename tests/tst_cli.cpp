@@ -200,8 +200,9 @@ private slots:
             << "unknown condition"
             << "data/scr/00001gate_guard.scr:offset 0x40: error: line 0: condition code 99 is not in the catalogue";
         QTest::newRow("truncated script") << "truncated script"
-                                          << "data/scr/00002night_watch.scr:offset 0x[0-9a-f]+: error: the file ends "
-                                             "inside line \\d+ of the \\d+ its header counts";
+                                          << "data/scr/00002night_watch.scr:offset 0x[0-9a-f]+: error: the header "
+                                             "counts \\d+ lines \\(\\d+ bytes\\), but the file is \\d+ bytes long "
+                                             "and holds only \\d+ whole lines";
         QTest::newRow("invalid mes entry") << "invalid mes entry"
                                            << "data/mes/bad.mes:2: error: '\\{' at index 3 has no matching '\\}'";
         QTest::newRow("response to nowhere") << "response to nowhere"

@@ -144,8 +144,8 @@ private slots:
     {
         DialogueTestsWidget row(nullptr, 2, &result::ALL_PC_RESULTS);
         QCOMPARE(*row.getCalculatedValue(), TestOrResultData(result::RESULT_MONEY));
-        QCOMPARE(child<QComboBox>(row, "comboOp")->itemText(33), QStringLiteral("wa"));
-        QCOMPARE(child<QComboBox>(row, "comboOp")->itemText(34), QStringLiteral("wa"));
+        QCOMPARE(child<QComboBox>(row, "comboOp")->itemText(33), QStringLiteral("wa — wait"));
+        QCOMPARE(child<QComboBox>(row, "comboOp")->itemText(34), QStringLiteral("wa — wait"));
         QCOMPARE(child<QSpinBox>(row, "spin1")->minimum(), -1000000);
         QCOMPARE(child<QSpinBox>(row, "spin1")->maximum(), 1000000);
         QCOMPARE(child<QSpinBox>(row, "spin2")->minimum(), -1000000);

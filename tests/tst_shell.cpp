@@ -220,8 +220,10 @@ private slots:
             QCOMPARE(model->columnCount(), 1);
             QCOMPARE(model->filePath(artTree->rootIndex()), base + QStringLiteral("/data/art"));
             emit artTree->activated(model->index(base + QStringLiteral("/data/art/monster")));
+            ScriptedAnswerer answers; // the touched .aap is no palette: its reason is shown
             emit artTree->activated(model->index(base + QStringLiteral("/data/art/monster/orc.aap")));
             QVERIFY(!window.artPage()->document());
+            QVERIFY(answers.last(QStringLiteral("message"))->text.contains(QStringLiteral("1024 bytes")));
         }
         gui::settings.remove(QStringLiteral("Directories"));
     }

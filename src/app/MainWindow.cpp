@@ -4,12 +4,14 @@
 #include "ArtWidget.h"
 #include "DamageBanner.h"
 #include "DialogAbout.h"
+#include "DialogEditPalette.h"
 #include "DialogOptions.h"
 #include "DialogueEditWidget.h"
 #include "DiskWatcher.h"
 #include "Document.h"
 #include "MesWidget.h"
 #include "Page.h"
+#include "PaletteFile.h"
 #include "Prompt.h"
 #include "ProtoWidget.h"
 #include "RecoveryStore.h"
@@ -353,9 +355,14 @@ void MainWindow::on_artTree_activated(QModelIndex index)
     if (!model)
         return;
     const QFileInfo info = model->fileInfo(index);
-    if (info.isDir() || info.suffix().toUpper() != QLatin1String("ART"))
+    if (info.isDir())
         return;
-    openInPage(artWidget, QDir::cleanPath(info.filePath()));
+    if (info.suffix().toUpper() == QLatin1String("AAP")) {
+        showPaletteFile(info.filePath());
+        return;
+    }
+    if (info.suffix().toUpper() == QLatin1String("ART"))
+        openInPage(artWidget, QDir::cleanPath(info.filePath()));
 }
 
 void MainWindow::on_protoList_itemSelectionChanged()
@@ -382,6 +389,22 @@ bool MainWindow::openInPage(Page* page, const QString& path)
         reselecting = false;
     }
     return opened;
+}
+
+// A palette file is no document of its own: it opens in the palette editor, which saves it itself.
+void MainWindow::showPaletteFile(const QString& path)
+{
+    arcanum::Artfile::Palette colours;
+    QString error;
+    if (!arcanum::PaletteFile::read(path, colours, error)) {
+        Prompt::message(this, QMessageBox::Warning, tr("Cannot open file"),
+                        tr("Could not open %1: %2").arg(QDir::toNativeSeparators(path), error));
+        return;
+    }
+    DialogEditPalette dialog(this);
+    dialog.setWindowTitle(tr("Palette %1").arg(QFileInfo(path).fileName()));
+    dialog.setImage(QImage(), colours);
+    Prompt::run(dialog);
 }
 
 Page* MainWindow::pageFor(const QString& path) const
@@ -454,9 +477,12 @@ void MainWindow::documentReplaced(Page* page, Document* document)
     if (document != nullptr) {
         undo->addStack(document->undoStack());
         connect(document, &Document::modifiedChanged, this, &MainWindow::updateMarks);
-        connect(document, &Document::pathChanged, this, [this] {
+        connect(document, &Document::pathChanged, this, [this, page](const QString& path) {
             updateMarks();
             rewatch();
+            // After Save As the art tree shows the file the page now has.
+            if (page == artWidget && artModel != nullptr)
+                ui->artTree->setCurrentIndex(artModel->index(path));
         });
         connect(document, &Document::saved, this, [this](const QString& path) {
             watcher->savedByUs(path);

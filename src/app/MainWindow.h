@@ -88,6 +88,7 @@ private:
     void applyFilter(QWidget* view, const QString& text);
     Page* currentPage() const;
     Page* pageFor(const QString& path) const;
+    void showPaletteFile(const QString& path);
     bool openInPage(Page* page, const QString& path);
     void documentReplaced(Page* page, Document* document);
     void updateMarks();

@@ -7,6 +7,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include <iostream>
@@ -130,10 +131,34 @@ void ArtEditorWidget::updateValues()
 // ---------------------------------------------------------------------------------------------
 // Showing and zooming
 
+// The game does not draw palette entry 0 nor any entry of exactly its colour: those pixels show the
+// checkerboard behind the sprite, as they would show the ground in the game.
+QImage ArtEditorWidget::withTransparency(const QImage& indexed)
+{
+    if (indexed.format() != QImage::Format_Indexed8 || indexed.colorCount() == 0)
+        return indexed;
+    QImage keyed = indexed;
+    QVector<QRgb> table = keyed.colorTable();
+    const QRgb key = table.first();
+    for (QRgb& colour : table)
+        if (colour == key)
+            colour = qRgba(0, 0, 0, 0);
+    keyed.setColorTable(table);
+    QImage shown(keyed.size(), QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&shown);
+    const int square = 8;
+    for (int y = 0; y < shown.height(); y += square)
+        for (int x = 0; x < shown.width(); x += square)
+            painter.fillRect(x, y, square, square, ((x + y) / square) % 2 ? QColor(0xcc, 0xcc, 0xcc) : Qt::white);
+    painter.drawImage(0, 0, keyed);
+    return shown;
+}
+
 void ArtEditorWidget::showPicture()
 {
     const int factor = zoom();
-    ui->view->setPixmap(QPixmap::fromImage(factor == 1 ? picture : picture.scaled(picture.size() * factor)));
+    const QImage scaled = factor == 1 ? picture : picture.scaled(picture.size() * factor);
+    ui->view->setPixmap(QPixmap::fromImage(withTransparency(scaled)));
 }
 
 void ArtEditorWidget::showText(const QString& text)

@@ -50,6 +50,7 @@ protected:
 
 private:
     void showPicture();
+    static QImage withTransparency(const QImage& indexed);
     void showText(const QString& text);
     void fillValues();
     void setControlsEnabled(bool enabled);

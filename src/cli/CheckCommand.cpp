@@ -139,8 +139,13 @@ void CheckCommand::checkScriptLength(const QString& path)
     if (size < Script::HeaderSize)
         report.errorAt(path, quint64(size), QStringLiteral("the file ends inside the %1-byte header").arg(Script::HeaderSize));
     else if (size < Script::HeaderSize + count * Script::LineSize)
-        report.errorAt(path, quint64(size), QStringLiteral("the file ends inside line %1 of the %2 its header counts")
-                                                .arg((size - Script::HeaderSize) / Script::LineSize).arg(count));
+        report.errorAt(path, quint64(size),
+                       QStringLiteral("the header counts %1 lines (%2 bytes), but the file is %3 bytes long and holds "
+                                      "only %4 whole lines")
+                           .arg(count)
+                           .arg(Script::HeaderSize + count * Script::LineSize)
+                           .arg(size)
+                           .arg((size - Script::HeaderSize) / Script::LineSize));
 }
 
 void CheckCommand::checkScriptLine(const QString& path, const Script& script, int index)

@@ -121,6 +121,8 @@ void DialogueEditWidget::commitPending()
 
 void DialogueEditWidget::setUpTrees()
 {
+    // A double click opens a line; it must not also fold away the answers under it.
+    ui->treeNPC->setExpandsOnDoubleClick(false);
     QHeaderView* npcHeader = ui->treeNPC->header();
     npcHeader->setStretchLastSection(false);
     npcHeader->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -1,5 +1,7 @@
 #include "DialogueTestsWidget.h"
 
+#include "OpcodeWords.h"
+
 #include "ui_DialogueTestsWidget.h"
 
 #include <QEvent>
@@ -59,6 +61,15 @@ void DialogueTestsWidget::init()
     updateToolTips();
 }
 
+QString DialogueTestsWidget::opcodeToolTip(const TestOrResultType* type)
+{
+    const QStringList names = arcanum::dlg::OpcodeWords::argumentNames(type);
+    const QString meaning = arcanum::dlg::OpcodeWords::meaning(type);
+    if (names.isEmpty())
+        return tr("\"%1\": %2, without arguments").arg(type->code(), meaning);
+    return tr("\"%1\": %2; arguments: %3").arg(type->code(), meaning, names.join(QStringLiteral(", ")));
+}
+
 void DialogueTestsWidget::fillOpcodes()
 {
     if (!types)
@@ -68,11 +79,9 @@ void DialogueTestsWidget::fillOpcodes()
             ui->comboOp->addItem(QString());
             continue;
         }
-        ui->comboOp->addItem(type->description());
-        const int arguments = type->argumentCount();
-        ui->comboOp->setItemData(ui->comboOp->count() - 1,
-                                 tr("\"%1\" with %n argument(s)", nullptr, arguments).arg(type->code()),
-                                 Qt::ToolTipRole);
+        // The code comes first, so typing it still finds the opcode; the words say what it does.
+        ui->comboOp->addItem(arcanum::dlg::OpcodeWords::label(type));
+        ui->comboOp->setItemData(ui->comboOp->count() - 1, opcodeToolTip(type), Qt::ToolTipRole);
     }
 }
 
@@ -188,6 +197,14 @@ void DialogueTestsWidget::updateToolTips()
         ui->spin1->setToolTip(settings->getSpin1ToolTip(*this));
     if (isShown(spin2))
         ui->spin2->setToolTip(settings->getSpin2ToolTip(*this));
+    // Each value box is named after the argument it holds.
+    const QStringList names = arcanum::dlg::OpcodeWords::argumentNames(data.type);
+    if (!names.isEmpty() && isShown(spin1))
+        ui->spin1->setToolTip(names.at(0) + QStringLiteral(": ") + ui->spin1->toolTip());
+    if (names.size() > 1 && isShown(spin2))
+        ui->spin2->setToolTip(names.at(1) + QStringLiteral(": ") + ui->spin2->toolTip());
+    if (data.type != nullptr)
+        setToolTip(opcodeToolTip(data.type));
 }
 
 const TestOrResultType* DialogueTestsWidget::chosenType() const

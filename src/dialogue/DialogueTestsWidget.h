@@ -59,6 +59,7 @@ protected:
 private:
     void init();
     void fillOpcodes();
+    static QString opcodeToolTip(const arcanum::dlg::TestOrResultType* type);
     void fillCombos(const arcanum::dlg::TestOrResultType* type);
     void showControls(const arcanum::dlg::TestOrResultGuiSettings* settings);
     void enableArguments(const arcanum::dlg::TestOrResultType* type);
