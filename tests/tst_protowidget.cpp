@@ -477,7 +477,7 @@ private slots:
         auto* scripts = child<ProtoScriptsWidget>(page, "movableScripts");
         QVERIFY(scripts->rowCheck(35)->isChecked());
         QVERIFY(scripts->rowButton(35)->isEnabled());
-        QCOMPARE(scripts->rowButton(35)->text(), QStringLiteral("1530: counters=(1 2 3 4), flags=0x81"));
+        QCOMPARE(scripts->rowButton(35)->text(), QStringLiteral("1530 (1 2 3 4; 0x81)"));
         QVERIFY(!scripts->rowButton(Proto::Use)->isEnabled());
         QCOMPARE(scripts->rowButton(Proto::Use)->text(), QStringLiteral("Click to attach a script"));
         QCOMPARE(scripts->rowCheck(Proto::Use)->text(), QStringLiteral("Use"));
@@ -513,7 +513,7 @@ private slots:
         };
         QTest::mouseClick(scripts->rowButton(35), Qt::LeftButton);
         QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
-        QCOMPARE(scripts->rowButton(35)->text(), QStringLiteral("77: counters=(1 2 200 4), flags=0x80000001"));
+        QCOMPARE(scripts->rowButton(35)->text(), QStringLiteral("77 (1 2 200 4; 0x80000001)"));
         QVERIFY(modified(page));
         clickSave(page);
         Proto reopened;
@@ -524,7 +524,7 @@ private slots:
         // A cancelled dialog changes nothing.
         answers.dialogs << [](QDialog&) { return int(QDialog::Rejected); };
         QTest::mouseClick(scripts->rowButton(35), Qt::LeftButton);
-        QCOMPARE(scripts->rowButton(35)->text(), QStringLiteral("77: counters=(1 2 200 4), flags=0x80000001"));
+        QCOMPARE(scripts->rowButton(35)->text(), QStringLiteral("77 (1 2 200 4; 0x80000001)"));
     }
 
     void saveAsWithEmptyNameWritesNothing()

@@ -123,13 +123,17 @@ void ProtoScriptsWidget::redrawButton(int point)
         return;
     }
     const ScriptArgs& script = found->second;
-    button->setText(QStringLiteral("%1: counters=(%2 %3 %4 %5), flags=0x%6")
-                        .arg(script.number)
-                        .arg(int(script.counters[0]))
-                        .arg(int(script.counters[1]))
-                        .arg(int(script.counters[2]))
-                        .arg(int(script.counters[3]))
-                        .arg(script.flags, 0, 16));
+    // Short enough for the form's column; the words are in the tool tip.
+    const QString counters = QStringLiteral("%1 %2 %3 %4")
+                                 .arg(int(script.counters[0]))
+                                 .arg(int(script.counters[1]))
+                                 .arg(int(script.counters[2]))
+                                 .arg(int(script.counters[3]));
+    button->setText(QStringLiteral("%1 (%2; 0x%3)").arg(script.number).arg(counters).arg(script.flags, 0, 16));
+    button->setToolTip(tr("Script %1, counters %2, flags 0x%3. Click to change.")
+                           .arg(script.number)
+                           .arg(counters)
+                           .arg(script.flags, 0, 16));
 }
 
 void ProtoScriptsWidget::reportEdit()
