@@ -105,6 +105,11 @@ QStringList OpcodeWords::argumentNames(const TestOrResultType* type)
     return names.mid(0, type->argumentCount());
 }
 
+bool OpcodeWords::namesArguments(const TestOrResultType* type)
+{
+    return argumentTable().contains(constantNames().value(type));
+}
+
 QString OpcodeWords::label(const TestOrResultType* type)
 {
     return type == nullptr ? QString() : QStringLiteral("%1 — %2").arg(type->code(), meaning(type));

@@ -17,6 +17,8 @@ public:
     static QString meaning(const TestOrResultType* type);
     // One name per argument the game expects.
     static QStringList argumentNames(const TestOrResultType* type);
+    // False when those names are only the generic "value", "value 2".
+    static bool namesArguments(const TestOrResultType* type);
     // "gf — global flag".
     static QString label(const TestOrResultType* type);
 };

@@ -197,8 +197,10 @@ void DialogueTestsWidget::updateToolTips()
         ui->spin1->setToolTip(settings->getSpin1ToolTip(*this));
     if (isShown(spin2))
         ui->spin2->setToolTip(settings->getSpin2ToolTip(*this));
-    // Each value box is named after the argument it holds.
-    const QStringList names = arcanum::dlg::OpcodeWords::argumentNames(data.type);
+    // Each value box is named after the argument it holds, where the opcode's arguments have names.
+    QStringList names = arcanum::dlg::OpcodeWords::argumentNames(data.type);
+    if (!arcanum::dlg::OpcodeWords::namesArguments(data.type))
+        names.clear();
     if (!names.isEmpty() && isShown(spin1))
         ui->spin1->setToolTip(names.at(0) + QStringLiteral(": ") + ui->spin1->toolTip());
     if (names.size() > 1 && isShown(spin2))
