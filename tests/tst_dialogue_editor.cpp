@@ -1,4 +1,6 @@
 // The Dialogue tab driven offscreen: trees, opening lines, editing them and saving as.
+#include "ConversationGraph.h"
+#include "ConversationView.h"
 #include "DialogueEditWidget.h"
 #include "Document.h"
 #include "UndoChecks.h"
@@ -363,6 +365,27 @@ private slots:
             QVERIFY(page->openNpcLine(1)); // leaving the last line applies its form
         }, lines));
         QCOMPARE(page->document()->undoStack()->undoText().left(10), QStringLiteral("Edit PC li"));
+    }
+
+    void conversationGraphOpensLines()
+    {
+        loadSample();
+        QTest::mouseClick(child<QPushButton>("buttonGraph"), Qt::LeftButton);
+        auto* view = page->findChild<ConversationView*>();
+        QVERIFY(view);
+        QVERIFY(view->window()->isVisible());
+        const ConversationGraph& graph = view->graph();
+        QVERIFY(graph.find(ConversationGraph::Kind::Npc, 40) >= 0);
+        emit view->lineActivated(false, 40);
+        QCOMPARE(currentForm()->objectName(), QStringLiteral("npcForm"));
+        QCOMPARE(npcForm()->getOriginalLine()->index(), 40);
+        // An applied edit shows in the graph at once.
+        emit view->lineActivated(true, 7);
+        typeAtEnd(pcForm()->findChild<QPlainTextEdit*>(QStringLiteral("text")), QStringLiteral(" Friend."));
+        QVERIFY(page->openNpcLine(1));
+        const int node = view->graph().find(ConversationGraph::Kind::Pc, 7);
+        QCOMPARE(view->graph().nodes().at(node).label, QStringLiteral("Farewell. Friend."));
+        view->window()->close();
     }
 
     void openFileButton()

@@ -1,5 +1,7 @@
 #include "DialogueEditWidget.h"
 
+#include "ConversationGraph.h"
+#include "ConversationView.h"
 #include "DialogueDocument.h"
 #include "DlgNpcLineEditWidget.h"
 #include "DlgPcLineEditWidget.h"
@@ -10,7 +12,10 @@
 #include <QDir>
 #include <QEvent>
 #include <QFile>
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
 #include <QTreeWidgetItemIterator>
 
 #include <optional>
@@ -104,6 +109,7 @@ void DialogueEditWidget::showDocument()
             closeLine();
             fillTrees();
             reopen(wasOpen);
+            refreshGraph();
             updateControls();
         });
         connect(shown, &Document::modifiedChanged, this, &DialogueEditWidget::updateControls);
@@ -111,12 +117,50 @@ void DialogueEditWidget::showDocument()
     showFileName();
     fillTrees();
     showUnreadText();
+    refreshGraph();
     updateControls();
 }
 
 void DialogueEditWidget::commitPending()
 {
     applyPendingForm();
+}
+
+void DialogueEditWidget::on_buttonGraph_clicked()
+{
+    if (graphWindow == nullptr) {
+        graphWindow = new QWidget(this, Qt::Window);
+        graphWindow->setObjectName(QStringLiteral("conversationWindow"));
+        graphWindow->resize(900, 700);
+        auto* column = new QVBoxLayout(graphWindow);
+        auto* buttons = new QHBoxLayout;
+        graph = new ConversationView(graphWindow);
+        const std::vector<std::pair<QString, void (ConversationView::*)()>> actions = {
+            {tr("Zoom in"), &ConversationView::zoomIn},
+            {tr("Zoom out"), &ConversationView::zoomOut},
+            {tr("Fit to window"), &ConversationView::fitAll}};
+        for (const auto& [text, slot] : actions) {
+            auto* button = new QPushButton(text, graphWindow);
+            connect(button, &QPushButton::clicked, graph, slot);
+            buttons->addWidget(button);
+        }
+        buttons->addStretch(1);
+        column->addLayout(buttons);
+        column->addWidget(graph, 1);
+        connect(graph, &ConversationView::lineActivated, this,
+                [this](bool pc, int line) { pc ? openPcLine(line) : openNpcLine(line); });
+    }
+    refreshGraph();
+    graphWindow->show();
+    graphWindow->raise();
+}
+
+void DialogueEditWidget::refreshGraph()
+{
+    if (graph == nullptr || getModel() == nullptr)
+        return;
+    graphWindow->setWindowTitle(tr("Conversation: %1").arg(document()->displayName()));
+    graph->showGraph(ConversationGraph::build(*getModel()));
 }
 
 void DialogueEditWidget::setUpTrees()
@@ -147,7 +191,7 @@ void DialogueEditWidget::updateControls()
 {
     const bool loaded = dialogueDocument() != nullptr;
     const bool modified = hasChanges();
-    const QList<QWidget*> editingControls = {ui->buttonSaveAs, ui->treeNPC, ui->treePC,
+    const QList<QWidget*> editingControls = {ui->buttonSaveAs, ui->buttonGraph, ui->treeNPC, ui->treePC,
                                              ui->radioNPC, ui->radioPC, ui->formPanel};
     for (QWidget* widget : editingControls)
         widget->setEnabled(loaded);
@@ -393,6 +437,7 @@ void DialogueEditWidget::saveLineEditChangesToMem()
     // The form wrote into the line in place; the step is what the bytes became.
     shown->recordEdit(open.kind == LineKind::Pc ? tr("Edit PC line %1").arg(open.index)
                                                 : tr("Edit NPC line %1").arg(open.index));
+    refreshGraph();
     emit npcListChanged();
     emit pcListChanged();
     showOpenLine();

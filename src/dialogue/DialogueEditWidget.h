@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+class ConversationView;
 class DialogueDocument;
 class DlgLineEditWidget;
 class QTreeWidget;
@@ -50,6 +51,7 @@ signals:
 public slots:
     void on_buttonOpenFile_clicked();
     void on_buttonSaveAs_clicked();
+    void on_buttonGraph_clicked();
     void on_treeNPC_itemDoubleClicked(QTreeWidgetItem* item, int column);
     void on_treePC_itemDoubleClicked(QTreeWidgetItem* item, int column);
     void rebuildPCList();
@@ -89,7 +91,12 @@ private:
     QTreeWidgetItem* pcItem(const arcanum::DialogueFileNew::PCLine& line) const;
 
     std::unique_ptr<Ui_DialogueEditWidget> ui;
+    void refreshGraph();
+
     // Set while the form has edits not yet applied to its line.
     bool formEdited = false;
+    // A window of its own beside the page, made when first asked for.
+    QWidget* graphWindow = nullptr;
+    ConversationView* graph = nullptr;
     OpenLine open;
 };

@@ -49,6 +49,9 @@ DialogueTestsWidget::~DialogueTestsWidget() = default;
 void DialogueTestsWidget::init()
 {
     ui->setupUi(this);
+    // Room for the code and the start of its meaning ("gf — global flag").
+    ui->comboOp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    ui->comboOp->setMinimumContentsLength(15);
     initialising = true;
     fillOpcodes();
     ui->comboOp->setCurrentIndex(types ? static_cast<int>(types->indexOf(data.type)) : -1);

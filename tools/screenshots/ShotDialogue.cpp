@@ -2,12 +2,14 @@
 // NPC line with a female variant, and a line with problems.
 #include "ShotRegistry.h"
 
+#include "ConversationView.h"
 #include "DialogueEditWidget.h"
 #include "Document.h"
 #include "MainWindow.h"
 #include "constants.h"
 
 #include <QDir>
+#include <QPushButton>
 
 namespace {
 
@@ -44,7 +46,22 @@ QWidget* brokenLine(MainWindow& window)
     return nullptr;
 }
 
+QWidget* conversation(MainWindow& window)
+{
+    DialogueEditWidget& page = sampleDialogue(window);
+    if (auto* button = page.findChild<QPushButton*>(QStringLiteral("buttonGraph")))
+        button->click();
+    auto* view = page.findChild<ConversationView*>();
+    if (view == nullptr)
+        return nullptr;
+    view->window()->resize(1000, 720);
+    ShotRegistry::settle();
+    view->fitAll();
+    return view->window();
+}
+
 const ShotRegistration shot(30, "tab-3-dialogue", &pcLine);
+const ShotRegistration graphShot(33, "dialogue-conversation-graph", &conversation);
 const ShotRegistration npcShot(31, "tab-3-dialogue-npc", &npcLine);
 const ShotRegistration errorShot(32, "tab-3-dialogue-errors", &brokenLine);
 

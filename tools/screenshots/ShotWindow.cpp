@@ -24,7 +24,7 @@ QWidget* undoHistory(MainWindow& window)
     auto* view = window.mesPage()->findChild<QTableView*>();
     if (view != nullptr) {
         QAbstractItemModel* model = view->model();
-        const int column = model->columnCount() - 1;
+        const int column = 1;
         for (int row = 0; row < 3 && row < model->rowCount(); ++row) {
             const QModelIndex cell = model->index(row, column);
             model->setData(cell, model->data(cell).toString() + QStringLiteral(" (improved)"));
