@@ -10,7 +10,15 @@
 #include "ScriptedAnswerer.h"
 #include "gui.h"
 
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAction>
+#include <QComboBox>
+#include <QGraphicsView>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTextEdit>
 #include <QDirIterator>
 #include <QLineEdit>
 #include <QListWidget>
@@ -322,6 +330,69 @@ private slots:
         QVERIFY(window.mesPage()->document()->save(game.path(ITEMS), error));
         QTest::qWait(300);
         QCOMPARE(answers.count(QStringLiteral("question")), 1);
+    }
+
+    void pagesFitTheWindow_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("default 1200 × 800") << QSize(1200, 800);
+        QTest::newRow("small 1024 × 700") << QSize(1024, 700);
+    }
+
+    // No control of any page is cut off and no form needs sideways scrolling, at the default size and a small one.
+    void pagesFitTheWindow()
+    {
+        QFETCH(QSize, size);
+        ScratchGame game;
+        MainWindow window;
+        window.resize(size);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.openFiles({game.path(QStringLiteral("/data/scr/00001gate_guard.scr")), game.path(ITEMS),
+                          game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg")),
+                          game.path(QStringLiteral("/data/art/sample_beetle.art")),
+                          game.path(QStringLiteral("/data/proto/weapon_sword.pro"))});
+        auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+        QStringList cut;
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            QTest::qWait(50);
+            for (QWidget* control : tabs->widget(tab)->findChildren<QWidget*>()) {
+                const bool checked = qobject_cast<QAbstractButton*>(control) || qobject_cast<QLabel*>(control)
+                                     || qobject_cast<QComboBox*>(control) || qobject_cast<QAbstractSpinBox*>(control);
+                if (!checked || !control->isVisible() || control->width() <= 0)
+                    continue;
+                const QRect seen = control->visibleRegion().boundingRect();
+                const bool inScrollArea = [control] {
+                    for (QWidget* up = control->parentWidget(); up; up = up->parentWidget())
+                        if (qobject_cast<QAbstractScrollArea*>(up))
+                            return true;
+                    return false;
+                }();
+                // Inside a scroll area only sideways cutting counts: scrolling down is expected.
+                const bool clipped = inScrollArea ? seen.width() < control->width() && !seen.isEmpty()
+                                                  : seen != control->rect();
+                if (clipped)
+                    cut.append(QStringLiteral("%1: %2 (%3 of %4 wide)")
+                                   .arg(tabs->tabText(tab), control->objectName().isEmpty()
+                                                                ? QString::fromLatin1(control->metaObject()->className())
+                                                                : control->objectName())
+                                   .arg(seen.width())
+                                   .arg(control->width()));
+            }
+            for (QAbstractScrollArea* area : tabs->widget(tab)->findChildren<QAbstractScrollArea*>())
+                if (area->isVisible() && area->horizontalScrollBar()->isVisible()
+                    && !qobject_cast<QAbstractItemView*>(area) && !qobject_cast<QGraphicsView*>(area)
+                    && !qobject_cast<QPlainTextEdit*>(area) && !qobject_cast<QTextEdit*>(area))
+                    cut.append(QStringLiteral("%1: %2 scrolls sideways").arg(tabs->tabText(tab), area->objectName()));
+        }
+        const QStringList proto = cut.filter(QRegularExpression(QStringLiteral("^Proto: ")));
+        for (const QString& problem : proto)
+            cut.removeAll(problem);
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
+        // Known: the weapon group lays its three damage tables side by side and needs 864 pixels.
+        QEXPECT_FAIL("", "the Proto form's weapon group is wider than the page", Continue);
+        QVERIFY2(proto.isEmpty(), qPrintable(proto.join(QStringLiteral("; "))));
     }
 
     void recoveryAfterACrash()
