@@ -2,7 +2,8 @@
 # so a fresh Debian machine only needs `make run` or `make test`.
 
 PACKAGES := qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-image-formats-plugins \
-            libgl-dev ninja-build cmake g++ fonts-dejavu-core xvfb xauth
+            libgl-dev ninja-build cmake g++ fonts-dejavu-core xvfb xauth \
+            pkg-config libdeflate-dev zlib1g-dev xdotool
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 

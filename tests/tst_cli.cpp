@@ -271,6 +271,49 @@ private slots:
         QCOMPARE(condition["operands"][0]["type"].toString(), QStringLiteral("Number"));
     }
 
+    void datPackListExtractVerify()
+    {
+        const QString archive = scratch.filePath("sample.dat");
+        Run run = loreka({"dat", "pack", SAMPLE_GAME + "/data", archive});
+        QCOMPARE(run.code, 0);
+        QVERIFY(run.out.contains(QStringLiteral("files packed into")));
+        run = loreka({"dat", "list", archive});
+        QCOMPARE(run.code, 0);
+        QVERIFY2(run.lines().contains(QRegularExpression(QStringLiteral("^mes/sample_items\\.mes\\t\\d+\\t\\d+\\tzlib$"))),
+                 qPrintable(run.out));
+        QVERIFY(!run.out.contains(QStringLiteral("mes\t0\t0"))); // folders are not listed
+        run = loreka({"dat", "verify", archive});
+        QCOMPARE(run.code, 0);
+        const QString out = scratch.filePath("extracted");
+        run = loreka({"dat", "extract", archive, out, "mes/*"});
+        QCOMPARE(run.code, 0);
+        QCOMPARE(FormatChecks::readFile(out + "/mes/sample_items.mes"),
+                 FormatChecks::readFile(SAMPLE_GAME + "/data/mes/sample_items.mes"));
+        QVERIFY(!QFile::exists(out + "/proto"));
+    }
+
+    void datExtractStaysInsideItsFolder()
+    {
+        // The writer refuses such names, so the archive's directory is patched: "..\xy.mes" for "mes\a.mes".
+        const QString source = scratch.filePath("evil-source");
+        QVERIFY(QDir().mkpath(source + "/mes"));
+        QVERIFY(FormatChecks::writeFile(source + "/mes/a.mes", "{1}{a}\r\n"));
+        QVERIFY(FormatChecks::writeFile(source + "/mes/b.mes", "{1}{b}\r\n"));
+        const QString archive = scratch.filePath("evil.dat");
+        QCOMPARE(loreka({"dat", "pack", source, archive}).code, 0);
+        QByteArray bytes = FormatChecks::readFile(archive);
+        const qsizetype at = bytes.indexOf(QByteArray("mes\\a.mes"));
+        QVERIFY(at > 0);
+        bytes.replace(at, 9, QByteArray("..\\xy.mes"));
+        QVERIFY(FormatChecks::writeFile(archive, bytes));
+        const QString out = scratch.filePath("inside/out");
+        const Run run = loreka({"dat", "extract", archive, out});
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.err.contains(QStringLiteral("../xy.mes: not extracted")), qPrintable(run.err));
+        QVERIFY(!QFile::exists(scratch.filePath("inside/xy.mes")));
+        QVERIFY(QFile::exists(out + "/mes/b.mes"));
+    }
+
     void roundtripSampleBinariesAreIdentical()
     {
         const QStringList files = sampleFiles({"*.scr", "*.art", "*.pro"});

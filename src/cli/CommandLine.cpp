@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "CheckCommand.h"
+#include "DatCommand.h"
 #include "DumpCommand.h"
 #include "ExportCommand.h"
 #include "ModelChatter.h"
@@ -28,12 +29,16 @@ CommandLine::CommandLine()
         "  check [DIR]                   check every data file below DIR/data\n"
         "  dump FILE                     print a file as readable text (or JSON)\n"
         "  roundtrip FILE...             load and save each file, compare the bytes\n"
-        "  export FILE.art OUTDIR        write the frames of an art file as images\n\n"
+        "  export FILE.art OUTDIR        write the frames of an art file as images\n"
+        "  dat list ARCHIVE              list the files of a game archive (.dat)\n"
+        "  dat extract ARCHIVE OUTDIR [PATTERN...]  extract files (wildcards over their paths)\n"
+        "  dat pack DIR ARCHIVE          pack every file below DIR into an archive\n"
+        "  dat verify ARCHIVE            check an archive as the engine reads it\n\n"
         "Exit status: 0 clean, 1 problems or differences, 2 usage or input/output error."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, encodingOption});
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip or export"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export or dat"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
 }
@@ -75,6 +80,8 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
             exporter.onlyPalette(palette);
         return exporter.run(operands.at(0), operands.at(1));
     }
+    if (command == QLatin1String("dat"))
+        return DatCommand(parser.isSet(jsonOption)).run(operands);
     const QStringList known = {"check", "dump", "roundtrip", "export"};
     return usageError(known.contains(command) ? QStringLiteral("wrong number of arguments for %1").arg(command)
                                               : QStringLiteral("unknown command \"%1\"").arg(command));

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace arcanum {
+
+// zlib streams (RFC 1950) through libdeflate: the unpacked size of every archive entry is known, so
+// whole-buffer calls fit, and libdeflate compresses smaller and inflates faster than zlib itself.
+class Deflate
+{
+public:
+    // False when the stream is damaged or does not inflate to exactly size bytes.
+    static bool inflate(const QByteArray& packed, qsizetype size, QByteArray& out);
+    // At libdeflate's level 12, its best.
+    static QByteArray deflate(const QByteArray& bytes);
+};
+
+} // namespace arcanum
