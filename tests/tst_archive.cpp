@@ -2,6 +2,7 @@
 // and every kind of damage the reader must refuse with a reason instead of trusting.
 #include "DatArchive.h"
 #include "DatWriter.h"
+#include "GameView.h"
 #include "FormatChecks.h"
 
 #include <QRandomGenerator>
@@ -229,6 +230,51 @@ private slots:
         const QString all = archive.verify().join(QLatin1Char('\n'));
         QVERIFY2(all.contains(problem), qPrintable(all));
         QVERIFY(all.contains(QStringLiteral("damaged.dat/")));
+    }
+
+    void gameViewLayersAsTheEngine()
+    {
+        const QString game = dir.filePath(QStringLiteral("game"));
+        const auto pack = [&](const QString& name, QVector<DatWriter::File> files) {
+            QString error;
+            QVERIFY2(DatWriter::write(game + QLatin1Char('/') + name, files, error), qPrintable(error));
+        };
+        QVERIFY(QDir().mkpath(game + QStringLiteral("/modules/Arcanum/art")));
+        QVERIFY(QDir().mkpath(game + QStringLiteral("/data/mes")));
+        pack(QStringLiteral("tig.dat"), {{QStringLiteral("mes/x.mes"), "tig"}, {QStringLiteral("mes/hidden.mes"), "h"}});
+        pack(QStringLiteral("arcanum10.dat"), {{QStringLiteral("mes/order.mes"), "ten"}});
+        pack(QStringLiteral("arcanum2.dat"), {{QStringLiteral("mes/order.mes"), "two"}, {QStringLiteral("art/b.art"), "2"}});
+        pack(QStringLiteral("modules/Arcanum.dat"), {{QStringLiteral("proto/c.pro"), "module"}});
+        pack(QStringLiteral("modules/Arcanum.patch0"), {{QStringLiteral("proto/c.pro"), "patch"}});
+        QVERIFY(FormatChecks::writeFile(game + QStringLiteral("/data/mes/X.mes"), "loose"));
+        QVERIFY(FormatChecks::writeFile(game + QStringLiteral("/modules/Arcanum/art/b.art"), "module loose"));
+        QVERIFY(FormatChecks::writeFile(game + QStringLiteral("/tig.dat.ignore"), "mes\\hidden.mes\n"));
+        QVERIFY(FormatChecks::writeFile(game + QStringLiteral("/arcanum1.dat"), "not an archive"));
+
+        arcanum::GameView view;
+        view.build(game);
+        QStringList layers;
+        for (const arcanum::GameView::Layer& layer : view.layers())
+            layers << layer.name;
+        QCOMPARE(layers, QStringList({"tig.dat", "arcanum2.dat", "arcanum10.dat", "data/", "modules/Arcanum.dat",
+                                      "modules/Arcanum.patch0", "modules/Arcanum/"}));
+        QCOMPARE(view.problems().size(), 1); // arcanum1.dat is no archive
+        const auto winner = [&](const QString& path) {
+            const arcanum::GameView::File* file = view.find(path);
+            if (!file)
+                return QString();
+            QByteArray bytes;
+            QString error;
+            return view.read(*file, bytes, error) ? view.layers().at(file->layer).name + QLatin1Char('=')
+                                                        + QString::fromLatin1(bytes)
+                                                  : error;
+        };
+        QCOMPARE(winner(QStringLiteral("mes/x.mes")), QStringLiteral("data/=loose"));
+        QCOMPARE(view.find(QStringLiteral("MES/X.MES"))->hidden.size(), 1);
+        QCOMPARE(winner(QStringLiteral("mes/order.mes")), QStringLiteral("arcanum10.dat=ten"));
+        QCOMPARE(winner(QStringLiteral("art/b.art")), QStringLiteral("modules/Arcanum/=module loose"));
+        QCOMPARE(winner(QStringLiteral("proto/c.pro")), QStringLiteral("modules/Arcanum.patch0=patch"));
+        QVERIFY(!view.find(QStringLiteral("mes/hidden.mes")));
     }
 
     void writerRefusesUnsafeNames()
