@@ -319,7 +319,7 @@ private slots:
         QTest::mouseClick(child<QPushButton>(page, "buttonSaveAs"), Qt::LeftButton);
         QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save As"));
         QCOMPARE(FormatChecks::readFile(dir.filePath(QStringLiteral("copy.pro"))), FormatChecks::readFile(original));
-        QCOMPARE(page.getProto().getPath(), local(original)); // the model keeps its own file
+        QCOMPARE(page.document()->path(), dir.filePath(QStringLiteral("copy.pro"))); // the page goes on with the copy
     }
 
     void changedValueIsTheOnlyChange()

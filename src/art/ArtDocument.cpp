@@ -4,15 +4,10 @@
 
 #include <QFile>
 
-std::unique_ptr<ArtDocument> ArtDocument::load(const QString& path, QString& error)
+std::unique_ptr<ArtDocument> ArtDocument::fromBytes(const QString& path, const QByteArray& bytes, QString& error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
-        return nullptr;
-    }
     std::unique_ptr<ArtDocument> document(new ArtDocument(path));
-    if (!document->model.loadBytes(file.readAll())) {
+    if (!document->model.loadBytes(bytes)) {
         error = tr("%1 (at byte %2)").arg(document->model.loadFailure()).arg(document->model.loadFailureOffset());
         return nullptr;
     }

@@ -12,7 +12,7 @@ class ArtDocument : public Document
 
 public:
     // Null and the model's reason, with its offset, when the file is refused.
-    static std::unique_ptr<ArtDocument> load(const QString& path, QString& error);
+    static std::unique_ptr<ArtDocument> fromBytes(const QString& path, const QByteArray& bytes, QString& error);
 
     arcanum::Artfile& art() { return model; }
     const arcanum::Artfile& art() const { return model; }

@@ -48,9 +48,9 @@ QString ArtWidget::fileFilter() const
     return tr("Arcanum Art files (*.art);;All files (*)");
 }
 
-std::unique_ptr<Document> ArtWidget::load(const QString& path, QString& error) const
+std::unique_ptr<Document> ArtWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
-    return ArtDocument::load(path, error);
+    return ArtDocument::fromBytes(path, bytes, error);
 }
 
 ArtDocument* ArtWidget::artDocument() const

@@ -11,14 +11,9 @@ namespace {
 const int LISTED_PROBLEMS = 3;
 }
 
-std::unique_ptr<DialogueDocument> DialogueDocument::load(const QString& path, QString& error)
+std::unique_ptr<DialogueDocument> DialogueDocument::fromBytes(const QString& path, const QByteArray& bytes)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
-        return nullptr;
-    }
-    return std::unique_ptr<DialogueDocument>(new DialogueDocument(path, file.readAll()));
+    return std::unique_ptr<DialogueDocument>(new DialogueDocument(path, bytes));
 }
 
 DialogueDocument::DialogueDocument(const QString& path, const QByteArray& bytes)

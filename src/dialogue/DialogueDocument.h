@@ -14,7 +14,7 @@ class DialogueDocument : public Document
     Q_OBJECT
 
 public:
-    static std::unique_ptr<DialogueDocument> load(const QString& path, QString& error);
+    static std::unique_ptr<DialogueDocument> fromBytes(const QString& path, const QByteArray& bytes);
 
     arcanum::DialogueFileNew& dialogue() { return *model; }
     const arcanum::DialogueFileNew& dialogue() const { return *model; }

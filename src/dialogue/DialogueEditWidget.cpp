@@ -76,9 +76,10 @@ QString DialogueEditWidget::fileFilter() const
     return tr(FILE_FILTER);
 }
 
-std::unique_ptr<Document> DialogueEditWidget::load(const QString& path, QString& error) const
+std::unique_ptr<Document> DialogueEditWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
-    return DialogueDocument::load(path, error);
+    Q_UNUSED(error);
+    return DialogueDocument::fromBytes(path, bytes);
 }
 
 DialogueDocument* DialogueEditWidget::dialogueDocument() const

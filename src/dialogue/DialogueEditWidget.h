@@ -28,7 +28,7 @@ public:
 
     QStringList suffixes() const override;
     QString fileFilter() const override;
-    std::unique_ptr<Document> load(const QString& path, QString& error) const override;
+    std::unique_ptr<Document> fromBytes(const QString& path, const QByteArray& bytes, QString& error) const override;
 
     DialogueDocument* dialogueDocument() const;
     void fillTrees();

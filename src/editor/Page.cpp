@@ -5,6 +5,7 @@
 #include "SaveGuard.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 Page::Page(QWidget* parent)
@@ -13,6 +14,16 @@ Page::Page(QWidget* parent)
 }
 
 Page::~Page() = default;
+
+std::unique_ptr<Document> Page::load(const QString& path, QString& error) const
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = file.errorString();
+        return nullptr;
+    }
+    return fromBytes(path, file.readAll(), error);
+}
 
 bool Page::openFile(const QString& path)
 {

@@ -24,7 +24,10 @@ public:
     virtual QString fileFilter() const = 0;
     // Reads path into a new document; null and the reason when nothing of it can be shown. A file that
     // can be shown in part loads, with its document's damage() saying what is missing.
-    virtual std::unique_ptr<Document> load(const QString& path, QString& error) const = 0;
+    std::unique_ptr<Document> load(const QString& path, QString& error) const;
+    // The same from the bytes of a file named path (a file inside an archive has no file of its own).
+    virtual std::unique_ptr<Document> fromBytes(const QString& path, const QByteArray& bytes,
+                                                QString& error) const = 0;
 
     Document* document() const { return shown.get(); }
     // Asks to save the shown document's changes first (Save / Discard / Cancel), then loads path and

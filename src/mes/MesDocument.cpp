@@ -11,14 +11,9 @@ namespace {
 const int LISTED_PROBLEMS = 3;
 }
 
-std::unique_ptr<MesDocument> MesDocument::load(const QString& path, QTextCodec* codec, QString& error)
+std::unique_ptr<MesDocument> MesDocument::fromBytes(const QString& path, const QByteArray& bytes, QTextCodec* codec,
+                                                    QString& error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
-        return nullptr;
-    }
-    const QByteArray bytes = file.readAll();
     std::unique_ptr<Mesfile> model(Mesfile::getInstance(path));
     model->setFilename(path);
     if (!bytes.isEmpty() && !model->loadBytes(bytes, codec)) {

@@ -18,7 +18,8 @@ class MesDocument : public Document
 
 public:
     // Null and the reason when the file cannot be read at all.
-    static std::unique_ptr<MesDocument> load(const QString& path, QTextCodec* codec, QString& error);
+    static std::unique_ptr<MesDocument> fromBytes(const QString& path, const QByteArray& bytes, QTextCodec* codec,
+                                                  QString& error);
 
     const arcanum::Mesfile& model() const { return *mesfile; }
     QTextCodec* codec() const { return textCodec; }

@@ -59,9 +59,9 @@ QString MesWidget::fileFilter() const
     return tr("Arcanum Mes files (*.mes);;Arcanum Dialogue files (*.dlg);;All files (*)");
 }
 
-std::unique_ptr<Document> MesWidget::load(const QString& path, QString& error) const
+std::unique_ptr<Document> MesWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
-    return MesDocument::load(path, codec, error);
+    return MesDocument::fromBytes(path, bytes, codec, error);
 }
 
 MesDocument* MesWidget::mesDocument() const

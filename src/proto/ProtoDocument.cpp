@@ -32,10 +32,10 @@ void quietly(Work work)
 
 } // namespace
 
-std::unique_ptr<ProtoDocument> ProtoDocument::load(const QString& path, QString& error)
+std::unique_ptr<ProtoDocument> ProtoDocument::fromBytes(const QString& path, const QByteArray& bytes, QString& error)
 {
     std::unique_ptr<ProtoDocument> document(new ProtoDocument(path));
-    quietly([&] { document->model.load(local(path)); });
+    document->restoreModel(bytes);
     if (document->model.isLoaded())
         return document;
     error = tr("%1 (at byte %2)")

@@ -12,7 +12,7 @@ class ProtoDocument : public Document
 
 public:
     // Null and the model's reason, with its offset, when the file is refused.
-    static std::unique_ptr<ProtoDocument> load(const QString& path, QString& error);
+    static std::unique_ptr<ProtoDocument> fromBytes(const QString& path, const QByteArray& bytes, QString& error);
 
     arcanum::Proto& proto() { return model; }
     const arcanum::Proto& proto() const { return model; }

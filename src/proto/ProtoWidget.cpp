@@ -96,9 +96,9 @@ QString ProtoWidget::fileFilter() const
     return tr("Arcanum Proto (*.pro);;All files (*)");
 }
 
-std::unique_ptr<Document> ProtoWidget::load(const QString& path, QString& error) const
+std::unique_ptr<Document> ProtoWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
-    return ProtoDocument::load(path, error);
+    return ProtoDocument::fromBytes(path, bytes, error);
 }
 
 ProtoDocument* ProtoWidget::protoDocument() const

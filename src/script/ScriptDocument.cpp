@@ -4,14 +4,8 @@
 
 using arcanum::Script;
 
-std::unique_ptr<ScriptDocument> ScriptDocument::load(const QString& path, QString& error)
+std::unique_ptr<ScriptDocument> ScriptDocument::fromBytes(const QString& path, const QByteArray& bytes, QString& error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
-        return nullptr;
-    }
-    const QByteArray bytes = file.readAll();
     std::unique_ptr<ScriptDocument> document(new ScriptDocument(path, bytes.size()));
     if (!document->model.loadBytes(path, bytes)) {
         error = tr("a script's file name starts with its five-digit number (00042name.scr)");

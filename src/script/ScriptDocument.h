@@ -12,7 +12,7 @@ class ScriptDocument : public Document
 
 public:
     // Null and the reason when the file cannot be read or its name carries no script number.
-    static std::unique_ptr<ScriptDocument> load(const QString& path, QString& error);
+    static std::unique_ptr<ScriptDocument> fromBytes(const QString& path, const QByteArray& bytes, QString& error);
 
     arcanum::Script& script() { return model; }
     const arcanum::Script& script() const { return model; }

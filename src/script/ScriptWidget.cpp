@@ -45,9 +45,9 @@ QString ScriptWidget::fileFilter() const
     return tr("Arcanum scripts (*.scr);;All files (*)");
 }
 
-std::unique_ptr<Document> ScriptWidget::load(const QString& path, QString& error) const
+std::unique_ptr<Document> ScriptWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
-    return ScriptDocument::load(path, error);
+    return ScriptDocument::fromBytes(path, bytes, error);
 }
 
 ScriptDocument* ScriptWidget::scriptDocument() const
