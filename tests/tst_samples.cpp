@@ -46,6 +46,15 @@ private slots:
                      qPrintable(name + QStringLiteral(" differs; run `make samples`")));
         }
     }
+
+    void bundledArchiveMatchesWriter()
+    {
+        QTemporaryDir generated;
+        QVERIFY(SampleRegistry::writeAll(QDir(generated.path())));
+        const QByteArray archive = FormatChecks::readFile(generated.filePath(QStringLiteral("arcanum1.dat")));
+        QVERIFY(!archive.isEmpty());
+        QCOMPARE(FormatChecks::readFile(QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game/arcanum1.dat")), archive);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestSamples)
