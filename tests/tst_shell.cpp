@@ -178,10 +178,10 @@ private slots:
         auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
         QVERIFY(tabs);
         QCOMPARE(window.windowTitle(), QStringLiteral("qtLoreka"));
-        const QStringList titles = {"Script", "Mes", "Dialogue", "Art", "Proto"};
-        const QStringList names = {"tabScripts", "tabMes", "tabDialogue", "tabArt", "tabProto"};
-        QCOMPARE(tabs->count(), 5);
-        for (int i = 0; i < 5; ++i) {
+        const QStringList titles = {"Script", "Mes", "Dialogue", "Art", "Proto", "Game"};
+        const QStringList names = {"tabScripts", "tabMes", "tabDialogue", "tabArt", "tabProto", "GameWidget"};
+        QCOMPARE(tabs->count(), 6);
+        for (int i = 0; i < 6; ++i) {
             QCOMPARE(tabs->tabText(i), titles[i]);
             QCOMPARE(tabs->widget(i)->objectName(), names[i]);
         }

@@ -3,6 +3,8 @@
 #include "MainWindow.h"
 #include "CurrentDirGuard.h"
 #include "Document.h"
+#include "FormatChecks.h"
+#include "GameWidget.h"
 #include "MesWidget.h"
 #include "Page.h"
 #include "RecoveryStore.h"
@@ -23,6 +25,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -393,6 +396,45 @@ private slots:
         // Known: at 1024 pixels the weapon form with its damage tables still needs about 800.
         QEXPECT_FAIL("small 1024 × 700", "the Proto form's weapon group is wider than the small page", Continue);
         QVERIFY2(proto.isEmpty(), qPrintable(proto.join(QStringLiteral("; "))));
+    }
+
+    void archivedFileOpensAsALooseCopy()
+    {
+        ScratchGame game;
+        MainWindow window;
+        auto* tree = window.gamePage()->findChild<QTreeWidget*>(QStringLiteral("gameTree"));
+        const QList<QTreeWidgetItem*> found = tree->findItems(QStringLiteral("archived_notes.mes"),
+                                                              Qt::MatchRecursive | Qt::MatchExactly);
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(found.first()->text(2), QStringLiteral("arcanum1.dat"));
+        const QList<QTreeWidgetItem*> overridden = tree->findItems(QStringLiteral("sample_items.mes"),
+                                                                   Qt::MatchRecursive | Qt::MatchExactly);
+        QCOMPARE(overridden.first()->text(2), QStringLiteral("data/ (overrides arcanum1.dat)"));
+        tree->setCurrentItem(found.first());
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes << QMessageBox::Yes;
+        QTest::mouseClick(window.gamePage()->findChild<QPushButton*>(QStringLiteral("buttonGameOpen")), Qt::LeftButton);
+        QVERIFY(answers.last(QStringLiteral("question"))->text.contains(QStringLiteral("loose file in data/mes")));
+        const QString loose = game.path(QStringLiteral("/data/mes/archived_notes.mes"));
+        QCOMPARE(window.mesPage()->document()->path(), loose);
+        QVERIFY(window.mesPage()->document()->isModified());
+        QVERIFY(!QFile::exists(loose));
+        QVERIFY(window.mesPage()->save());
+        QVERIFY(game.bytes(QStringLiteral("/data/mes/archived_notes.mes")).contains("Opened from arcanum1.dat"));
+    }
+
+    void gameExtractsInTheBackground()
+    {
+        ScratchGame game;
+        MainWindow window;
+        auto* tree = window.gamePage()->findChild<QTreeWidget*>(QStringLiteral("gameTree"));
+        const QList<QTreeWidgetItem*> mes = tree->findItems(QStringLiteral("mes"), Qt::MatchRecursive | Qt::MatchExactly);
+        QCOMPARE(mes.size(), 1);
+        tree->setCurrentItem(mes.first());
+        QTemporaryDir out;
+        QVERIFY(window.gamePage()->extractSelected(out.path()));
+        QVERIFY(QFile::exists(out.filePath(QStringLiteral("mes/archived_notes.mes"))));
+        QCOMPARE(FormatChecks::readFile(out.filePath(QStringLiteral("mes/sample_items.mes"))), game.bytes(ITEMS));
     }
 
     void recoveryAfterACrash()

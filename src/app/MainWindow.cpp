@@ -8,6 +8,7 @@
 #include "DialogOptions.h"
 #include "DialogueEditWidget.h"
 #include "DiskWatcher.h"
+#include "GameWidget.h"
 #include "Document.h"
 #include "MesWidget.h"
 #include "Page.h"
@@ -85,6 +86,11 @@ MainWindow::MainWindow(QWidget* parent)
     addPage(artWidget, ui->artLayout, ui->tabWidget->indexOf(ui->tabArt));
     protoWidget = new ProtoWidget(this);
     addPage(protoWidget, ui->protoLayout, ui->tabWidget->indexOf(ui->tabProto));
+    gameWidget = new GameWidget(this);
+    ui->tabWidget->addTab(gameWidget, tr("Game"));
+    tabTitles.append(tr("Game"));
+    connect(gameWidget, &GameWidget::openRequested, this, &MainWindow::openGameFile);
+    gameWidget->rescan(manager.getBaseDirPath());
 
     createActions();
     createMenus();
@@ -146,7 +152,8 @@ void MainWindow::createActions()
     actionFind = new QAction(tr("&Find file"), this);
     actionFind->setShortcut(QKeySequence::Find);
     connect(actionFind, &QAction::triggered, this, [this] {
-        QLineEdit* box = filters.at(size_t(ui->tabWidget->currentIndex()));
+        const size_t tab = size_t(ui->tabWidget->currentIndex());
+        QLineEdit* box = tab < filters.size() ? filters.at(tab) : gameWidget->findChild<QLineEdit*>();
         if (box) {
             box->setFocus();
             box->selectAll();
@@ -158,6 +165,7 @@ void MainWindow::createActions()
         manager.reloadAll();
         manager.reloadDlg();
         updateFileList();
+        gameWidget->rescan(manager.getBaseDirPath());
         statusBar()->showMessage(tr("File lists rescanned"), 3000);
     });
     ui->actionExit->setShortcut(QKeySequence(QStringLiteral("Ctrl+X")));
@@ -405,6 +413,40 @@ void MainWindow::showPaletteFile(const QString& path)
     dialog.setWindowTitle(tr("Palette %1").arg(QFileInfo(path).fileName()));
     dialog.setImage(QImage(), colours);
     Prompt::run(dialog);
+}
+
+// An archived file opens as a copy whose first save writes the loose file that overrides it.
+void MainWindow::openGameFile(const QString& gamePath, const QByteArray& bytes, const QString& savePath, bool archived)
+{
+    if (!archived) {
+        openFiles({savePath});
+        return;
+    }
+    Page* page = pageFor(gamePath);
+    if (page == nullptr) {
+        Prompt::message(this, QMessageBox::Information, tr("Cannot open"),
+                        tr("%1: not a file qtLoreka edits (.mes, .dlg, .scr, .art, .pro)").arg(gamePath));
+        return;
+    }
+    const QString folder = QDir(manager.getBaseDirPath()).relativeFilePath(QFileInfo(savePath).absolutePath());
+    if (Prompt::question(this, tr("Open archived file"),
+                         tr("%1 is inside an archive. It opens as a copy; saving writes it as a loose file in %2, "
+                            "which then overrides the archived one. Open it?")
+                             .arg(gamePath, folder),
+                         QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
+            != QMessageBox::Yes
+        || !page->settle())
+        return;
+    QString error;
+    std::unique_ptr<Document> document = page->fromBytes(savePath, bytes, error);
+    if (!document) {
+        Prompt::message(this, QMessageBox::Warning, tr("Cannot open file"),
+                        tr("Could not open %1: %2").arg(gamePath, error));
+        return;
+    }
+    document->markUnsaved();
+    ui->tabWidget->setCurrentIndex(pageTabs.at(size_t(std::find(pages.begin(), pages.end(), page) - pages.begin())));
+    page->setDocument(std::move(document));
 }
 
 Page* MainWindow::pageFor(const QString& path) const
@@ -655,6 +697,7 @@ bool MainWindow::changeBaseDir(const QString& path)
     manager.reloadAll();
     manager.reloadDlg();
     updateFileList();
+    gameWidget->rescan(manager.getBaseDirPath());
     setStartFolders();
     const QString root = QDir::cleanPath(manager.getBaseDirPath() + QLatin1Char('/') + arcanum::ART_DIR);
     artModel->setRootPath(root);

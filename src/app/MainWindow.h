@@ -26,6 +26,7 @@ class ScriptWidget;
 class MesWidget;
 class DialogueEditWidget;
 class ArtWidget;
+class GameWidget;
 class ProtoWidget;
 
 // The window: the file lists, the five pages and everything that handles their documents — the undo
@@ -57,6 +58,7 @@ public:
     DialogueEditWidget* dialoguePage() const { return dialogueWidget; }
     ArtWidget* artPage() const { return artWidget; }
     ProtoWidget* protoPage() const { return protoWidget; }
+    GameWidget* gamePage() const { return gameWidget; }
     const std::vector<Page*>& allPages() const { return pages; }
     QUndoGroup* undoGroup() const { return undo; }
     RecoveryStore& recovery() { return *recoveryStore; }
@@ -89,6 +91,7 @@ private:
     Page* currentPage() const;
     Page* pageFor(const QString& path) const;
     void showPaletteFile(const QString& path);
+    void openGameFile(const QString& gamePath, const QByteArray& bytes, const QString& savePath, bool archived);
     bool openInPage(Page* page, const QString& path);
     void documentReplaced(Page* page, Document* document);
     void updateMarks();
@@ -106,6 +109,7 @@ private:
     DialogueEditWidget* dialogueWidget = nullptr;
     ArtWidget* artWidget = nullptr;
     ProtoWidget* protoWidget = nullptr;
+    GameWidget* gameWidget = nullptr;
     std::vector<Page*> pages;
     std::vector<int> pageTabs;
     std::vector<DamageBanner*> banners;
