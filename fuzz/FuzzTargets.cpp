@@ -1,6 +1,8 @@
 #include "FuzzTargets.h"
 
 #include "Artfile.h"
+#include "DatArchive.h"
+#include "DatWriter.h"
 #include "DialogueFile.h"
 #include "DialogueFileNew.h"
 #include "Mesfile.h"
@@ -8,10 +10,13 @@
 #include "Script.h"
 
 #include <QFile>
+#include <QSet>
+#include <QVector>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <cstring>
 #include <iostream>
 #include <memory>
@@ -134,6 +139,7 @@ const Target TARGETS[] = {
     {"art", ".art", &roundTripArt},
     {"pro", ".pro", &roundTripProto},
     {"aap", ".aap", &roundTripPalette},
+    {"dat", ".dat", &roundTripArchive},
 };
 
 } // namespace
@@ -230,6 +236,53 @@ int roundTripPalette(const std::uint8_t* data, std::size_t size)
             const QByteArray bytes = Artfile::paletteToBytes(model.colours);
             return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
         });
+}
+
+namespace {
+
+// The files of an archive that are safe to unpack, with their bytes; false when it cannot be opened.
+bool unpack(const QString& path, QVector<arcanum::DatWriter::File>& files)
+{
+    arcanum::DatArchive archive;
+    QString error;
+    if (!archive.open(path, error))
+        return false;
+    archive.verify();
+    for (const arcanum::DatArchive::Entry& entry : archive.entries()) {
+        QByteArray bytes;
+        if (!entry.isFolder() && arcanum::DatArchive::unsafeName(entry.name).isEmpty()
+            && archive.read(entry, bytes, error))
+            files.append({entry.name, bytes});
+    }
+    return true;
+}
+
+} // namespace
+
+int roundTripArchive(const std::uint8_t* data, std::size_t size)
+{
+    QVector<arcanum::DatWriter::File> files;
+    if (!unpack(writeInput(data, size, ".dat"), files))
+        return 0;
+    // Names that differ only in letter case cannot both be written; the first one stays.
+    QSet<QString> seen;
+    files.erase(std::remove_if(files.begin(), files.end(),
+                               [&seen](const arcanum::DatWriter::File& file) {
+                                   const QString key = QString(file.first).replace(QLatin1Char('\\'), QLatin1Char('/')).toLower();
+                                   if (seen.contains(key))
+                                       return true;
+                                   seen.insert(key);
+                                   return false;
+                               }),
+                files.end());
+    const QString first = workPath("first", ".dat");
+    const QString second = workPath("second", ".dat");
+    QString error;
+    QVector<arcanum::DatWriter::File> again;
+    if (!arcanum::DatWriter::write(first, files, error) || !unpack(first, again)
+        || !arcanum::DatWriter::write(second, again, error))
+        return 1;
+    return readBack(first) == readBack(second) ? 0 : 1;
 }
 
 const Target* targets(std::size_t* count)

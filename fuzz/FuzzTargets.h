@@ -25,6 +25,8 @@ int roundTripScript(const std::uint8_t* data, std::size_t size);
 int roundTripArt(const std::uint8_t* data, std::size_t size);
 int roundTripProto(const std::uint8_t* data, std::size_t size);
 int roundTripPalette(const std::uint8_t* data, std::size_t size);
+// Reads every entry of an archive, packs the readable ones into a new archive and that one again.
+int roundTripArchive(const std::uint8_t* data, std::size_t size);
 
 // Every target above, in a fixed order; count receives their number.
 const Target* targets(std::size_t* count);

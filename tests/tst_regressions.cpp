@@ -19,6 +19,10 @@ QString regressionDir(const char* kind)
 QStringList sampleFiles(const char* suffix)
 {
     QStringList found;
+    // Archives lie in the game folder itself, beside data/.
+    const QDir game(QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game"));
+    for (const QString& name : game.entryList({QLatin1Char('*') + QLatin1String(suffix)}, QDir::Files, QDir::Name))
+        found << game.filePath(name);
     const QDir data(QStringLiteral(LOREKA_SOURCE_DIR "/examples/sample-game/data"));
     for (const QString& folder : data.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
         const QDir dir(data.filePath(folder));

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
+#include <QHash>
 #include <QtEndian>
 
 #include <algorithm>
@@ -85,17 +86,21 @@ bool DatWriter::write(const QString& path, QVector<File> files, QString& error, 
             return false;
         }
     }
+    // Data in directory order, so the same files give the same archive whatever order they came in.
+    QHash<QByteArray, const QByteArray*> bytesOf;
+    for (const File& file : std::as_const(files))
+        bytesOf.insert(file.first.toLower().toLatin1(), &file.second);
     QByteArray data;
     int done = 0;
-    for (const File& file : std::as_const(files)) {
-        Record& record = sorted.at(file.first.toLower().toLatin1());
-        const QByteArray packed = Deflate::deflate(file.second);
-        const bool shrinks = !packed.isEmpty() && packed.size() < file.second.size();
+    for (auto& [key, record] : sorted) {
+        const QByteArray& bytes = *bytesOf.value(key);
+        const QByteArray packed = Deflate::deflate(bytes);
+        const bool shrinks = !packed.isEmpty() && packed.size() < bytes.size();
         record.flags = shrinks ? DatArchive::Compressed : DatArchive::Stored;
-        record.size = quint32(file.second.size());
-        record.packedSize = quint32(shrinks ? packed.size() : file.second.size());
+        record.size = quint32(bytes.size());
+        record.packedSize = quint32(shrinks ? packed.size() : bytes.size());
         record.offset = quint32(data.size());
-        data.append(shrinks ? packed : file.second);
+        data.append(shrinks ? packed : bytes);
         if (progress && !progress(++done, int(files.size()))) {
             error = tr("cancelled");
             return false;
