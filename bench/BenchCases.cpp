@@ -1,6 +1,9 @@
 #include "BenchCases.h"
 
 #include "Artfile.h"
+#include "DatArchive.h"
+#include "DatWriter.h"
+#include "GameView.h"
 #include "BenchInputs.h"
 #include "DialogueFileNew.h"
 #include "Manager.h"
@@ -11,12 +14,14 @@
 #include "Script.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QTextCodec>
 
 #include <benchmark/benchmark.h>
+#include <zlib.h>
 
 #include <cstring>
 #include <functional>
@@ -258,9 +263,117 @@ void addMesWidget(Registrar& r, const QString& game)
         widget->show();
         QApplication::processEvents();
         return [widget, path] {
-            widget->loadMes(path);
+            widget->openFile(path);
             QApplication::processEvents();
         };
+    });
+}
+
+// Archives: many small text-like entries, as the game's archives hold.
+QVector<arcanum::DatWriter::File> archiveFiles(int count, int size, const QString& prefix)
+{
+    QVector<arcanum::DatWriter::File> files;
+    files.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        QByteArray bytes;
+        for (int line = 0; bytes.size() < size; ++line)
+            bytes += "{" + QByteArray::number(i * 100 + line) + "}{Item " + QByteArray::number(i % 977)
+                     + " of the archive, line " + QByteArray::number(line) + "}\r\n";
+        bytes.truncate(size);
+        files.append({QStringLiteral("%1/folder%2/file%3.mes").arg(prefix).arg(i % 50).arg(i), bytes});
+    }
+    return files;
+}
+
+QString writeArchive(const QString& path, int count, int size, const QString& prefix = QStringLiteral("mes"))
+{
+    if (!QFileInfo::exists(path)) {
+        QString error;
+        arcanum::DatWriter::write(path, archiveFiles(count, size, prefix), error);
+    }
+    return path;
+}
+
+void addArchives(Registrar& r, const QString& outDir)
+{
+    const QString big = writeArchive(outDir + QStringLiteral("/directory.dat"), 100000, 16);
+    r.add("archive: directory of 100 000 entries", fileSize(big), Goal::Seconds, 0.1, [big] {
+        arcanum::DatArchive archive;
+        QString error;
+        archive.open(big, error);
+        benchmark::DoNotOptimize(archive.entries().size());
+    });
+    const QString data = writeArchive(outDir + QStringLiteral("/data.dat"), 2000, 20000);
+    const double unpacked = 2000.0 * 20000;
+    r.addPrepared("archive: inflate 2 000 entries in memory (libdeflate)", unpacked, Goal::None, 0, [data] {
+        auto archive = std::make_shared<arcanum::DatArchive>();
+        QString error;
+        archive->open(data, error);
+        return [archive] {
+            QByteArray bytes;
+            QString reason;
+            for (const arcanum::DatArchive::Entry& entry : archive->entries())
+                if (!entry.isFolder())
+                    archive->read(entry, bytes, reason);
+        };
+    });
+    r.addPrepared("archive: the same with zlib", unpacked, Goal::None, 0, [data] {
+        auto archive = std::make_shared<arcanum::DatArchive>();
+        QString error;
+        archive->open(data, error);
+        QFile file(data);
+        file.open(QIODevice::ReadOnly);
+        auto packed = std::make_shared<std::vector<std::pair<QByteArray, uLong>>>();
+        for (const arcanum::DatArchive::Entry& entry : archive->entries())
+            if (!entry.isFolder()) {
+                file.seek(entry.offset);
+                packed->emplace_back(file.read(entry.packedSize), entry.size);
+            }
+        return [packed] {
+            QByteArray out;
+            for (const auto& [bytes, size] : *packed) {
+                out.resize(qsizetype(size));
+                uLongf written = size;
+                uncompress(reinterpret_cast<Bytef*>(out.data()), &written,
+                           reinterpret_cast<const Bytef*>(bytes.constData()), uLong(bytes.size()));
+            }
+        };
+    });
+    const QString target = outDir + QStringLiteral("/extracted");
+    r.addPrepared("archive: extract 2 000 entries to files", unpacked, Goal::None, 0, [data, target] {
+        auto archive = std::make_shared<arcanum::DatArchive>();
+        QString error;
+        archive->open(data, error);
+        return [archive, target] {
+            QByteArray bytes;
+            QString reason;
+            for (const arcanum::DatArchive::Entry& entry : archive->entries()) {
+                if (entry.isFolder() || !archive->read(entry, bytes, reason))
+                    continue;
+                const QString path = target + QLatin1Char('/') + entry.path();
+                QDir().mkpath(QFileInfo(path).absolutePath());
+                QFile out(path);
+                if (out.open(QIODevice::WriteOnly))
+                    out.write(bytes);
+            }
+        };
+    });
+    r.addPrepared("archive: pack 2 000 entries (40 MB)", unpacked, Goal::Binary, 50.0, [outDir] {
+        auto files = std::make_shared<QVector<arcanum::DatWriter::File>>(archiveFiles(2000, 20000, QStringLiteral("mes")));
+        return [files, outDir] {
+            QString error;
+            arcanum::DatWriter::write(outDir + QStringLiteral("/packed.dat"), *files, error);
+        };
+    });
+    const QString game = outDir + QStringLiteral("/layered");
+    QDir().mkpath(game + QStringLiteral("/modules"));
+    for (const QString& name : {QStringLiteral("tig.dat"), QStringLiteral("arcanum1.dat"), QStringLiteral("arcanum2.dat"),
+                                QStringLiteral("arcanum3.dat"), QStringLiteral("modules/Arcanum.dat")})
+        writeArchive(game + QLatin1Char('/') + name, 20000, 8, QStringLiteral("art"));
+    r.add("game view: 5 archives, 100 000 entries", 100000, Goal::Seconds, 0.3, [game] {
+        arcanum::GameView view;
+        view.build(game);
+        benchmark::DoNotOptimize(view.files().size());
     });
 }
 
@@ -280,6 +393,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addArt(r, gameDir, outDir);
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
+    addArchives(r, outDir);
     r.addMemcpys();
     return r.cases;
 }

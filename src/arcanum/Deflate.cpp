@@ -7,7 +7,7 @@
 namespace arcanum {
 
 namespace {
-const int BEST_LEVEL = 12;
+const int BEST_LEVEL = 9;
 
 struct FreeDecompressor
 {

@@ -11,7 +11,7 @@ class Deflate
 public:
     // False when the stream is damaged or does not inflate to exactly size bytes.
     static bool inflate(const QByteArray& packed, qsizetype size, QByteArray& out);
-    // At libdeflate's level 12, its best.
+    // At level 9: smaller than zlib's best, and several times faster than libdeflate's levels 10 to 12.
     static QByteArray deflate(const QByteArray& bytes);
 };
 
