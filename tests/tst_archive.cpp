@@ -2,6 +2,7 @@
 // and every kind of damage the reader must refuse with a reason instead of trusting.
 #include "DatArchive.h"
 #include "DatWriter.h"
+#include "Deflate.h"
 #include "GameView.h"
 #include "FormatChecks.h"
 
@@ -275,6 +276,19 @@ private slots:
         QCOMPARE(winner(QStringLiteral("art/b.art")), QStringLiteral("modules/Arcanum/=module loose"));
         QCOMPARE(winner(QStringLiteral("proto/c.pro")), QStringLiteral("modules/Arcanum.patch0=patch"));
         QVERIFY(!view.find(QStringLiteral("mes/hidden.mes")));
+    }
+
+    void packsSmallerThanZlibsBest()
+    {
+        QByteArray text;
+        for (int i = 0; i < 2000; ++i)
+            text += "{" + QByteArray::number(i) + "}{Item " + QByteArray::number(i % 97) + " of the sample}\r\n";
+        const QByteArray ours = arcanum::Deflate::deflate(text);
+        QVERIFY2(ours.size() <= zlibStream(text).size(),
+                 qPrintable(QStringLiteral("%1 against %2").arg(ours.size()).arg(zlibStream(text).size())));
+        QByteArray back;
+        QVERIFY(arcanum::Deflate::inflate(ours, text.size(), back));
+        QCOMPARE(back, text);
     }
 
     void writerRefusesUnsafeNames()
