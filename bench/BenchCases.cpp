@@ -6,6 +6,7 @@
 #include "GameView.h"
 #include "BenchInputs.h"
 #include "DialogueFileNew.h"
+#include "FormatRegistry.h"
 #include "Manager.h"
 #include "MesWidget.h"
 #include "Mesfile.h"
@@ -384,6 +385,33 @@ std::string memcpyName(double bytes)
     return "memcpy " + std::to_string(static_cast<long long>(bytes)) + " bytes";
 }
 
+// What a file read out of an archive costs: bytes in memory to a model and back, no disk involved,
+// through the registry every part of the project shares.
+void addRewrites(Registrar& r, const QString& game)
+{
+    const QList<QPair<QString, QString>> inputs = {
+        {QStringLiteral("mes"), BenchInputs::mesPath(game)},
+        {QStringLiteral("dlg"), BenchInputs::dlgPath(game)},
+        {QStringLiteral("scr"), BenchInputs::scriptPath(game)},
+        {QStringLiteral("art"), BenchInputs::artPath(game)},
+        {QStringLiteral("pro"), BenchInputs::protoDir(game) + BenchInputs::protoName(0)},
+    };
+    for (const auto& input : inputs) {
+        const arcanum::FileFormat* format = arcanum::FormatRegistry::byName(input.first);
+        const QString path = input.second;
+        r.addPrepared(input.first.toStdString() + " rewrite in memory", fileSize(path), Goal::None, 0,
+                      [format, path]() -> Registrar::Body {
+                          const QByteArray bytes = readAll(path);
+                          return [format, path, bytes] {
+                              QByteArray out;
+                              QString error;
+                              format->rewrite(path, bytes, QTextCodec::codecForName("Windows-1251"), out, error);
+                              benchmark::DoNotOptimize(out.constData());
+                          };
+                      });
+    }
+}
+
 std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString& outDir)
 {
     Registrar r;
@@ -394,6 +422,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
     addArchives(r, outDir);
+    addRewrites(r, gameDir);
     r.addMemcpys();
     return r.cases;
 }

@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "FormatRegistry.h"
+
 #include "ArtModel.h"
 #include "ArtWidget.h"
 #include "DamageBanner.h"
@@ -365,11 +367,10 @@ void MainWindow::on_artTree_activated(QModelIndex index)
     const QFileInfo info = model->fileInfo(index);
     if (info.isDir())
         return;
-    if (info.suffix().toUpper() == QLatin1String("AAP")) {
+    const arcanum::FileFormat* format = arcanum::FormatRegistry::byPath(info.filePath());
+    if (format && format->kind == arcanum::FileFormat::Kind::Palette)
         showPaletteFile(info.filePath());
-        return;
-    }
-    if (info.suffix().toUpper() == QLatin1String("ART"))
+    else if (format && format->kind == arcanum::FileFormat::Kind::Art)
         openInPage(artWidget, QDir::cleanPath(info.filePath()));
 }
 

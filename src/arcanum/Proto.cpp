@@ -18,18 +18,29 @@ Proto::~Proto()
 
 void Proto::load(const std::string& fromPath)
 {
+    ibytestream in(fromPath);
+    if (read(in, fromPath))
+        path = fromPath;
+}
+
+bool Proto::loadBytes(const std::string& fromPath, const char* bytes, std::size_t count)
+{
+    ibytestream in(bytes, count);
+    if (read(in, fromPath))
+        path = fromPath;
+    return isLoaded();
+}
+
+bool Proto::read(ibytestream& in, const std::string& name)
+{
     clear();
     fail(std::string(), 0);
-    ibytestream in(fromPath);
     if (!in.ok()) {
-        std::cout << "Proto::load() failed: can't open " << fromPath << std::endl;
+        std::cout << "Proto::load() failed: can't open " << name << std::endl;
         fail("cannot be opened", 0);
-        return;
+        return false;
     }
-    if (!readHeader(in))
-        return;
-    if (readData(in))
-        path = fromPath;
+    return readHeader(in) && readData(in);
 }
 
 bool Proto::readHeader(ibytestream& in)
@@ -92,12 +103,23 @@ bool Proto::save(const std::string& toPath) const
         std::cout << "Proto::save() failed: can't open " << toPath << std::endl;
         return false;
     }
-    writeHeader(out);
-    if (!data->write(out) || !out.writeBlock(data->rest).ok() || !out.commit()) {
+    if (!write(out) || !out.commit()) {
         std::cout << "Proto::save() failed: can't write " << toPath << std::endl;
         return false;
     }
     return true;
+}
+
+std::string Proto::toBytes() const
+{
+    obytestream out;
+    return data && write(out) ? out.bytes() : std::string();
+}
+
+bool Proto::write(obytestream& out) const
+{
+    writeHeader(out);
+    return data->write(out) && out.writeBlock(data->rest).ok();
 }
 
 void Proto::fail(const std::string& why, std::uint64_t offset)

@@ -144,6 +144,11 @@ public:
     void load(const std::string& path);
     // Replaces the file at path in one step; false, with the old file untouched, when it could not.
     bool save(const std::string& path) const;
+    // The same from bytes in memory (a file read out of an archive); path names it for messages
+    // and becomes getPath(). True when a prototype was made.
+    bool loadBytes(const std::string& path, const char* bytes, std::size_t count);
+    // The bytes save() would write; empty when nothing is loaded.
+    std::string toBytes() const;
     void clear();
     bool isLoaded() const;
     // Why the last load did not make a prototype, and the file offset of the field at fault.
@@ -171,6 +176,8 @@ public:
     static std::unique_ptr<Data> makeData(std::uint32_t itemType);
 
 private:
+    bool read(ibytestream& in, const std::string& name);
+    bool write(obytestream& out) const;
     bool readHeader(ibytestream& in);
     bool readData(ibytestream& in);
     void writeHeader(obytestream& out) const;

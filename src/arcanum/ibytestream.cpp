@@ -1,16 +1,37 @@
 #include "ibytestream.h"
 
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 
 namespace arcanum {
 
 ibytestream::ibytestream(const std::string& path)
-    : std::ifstream(path, std::ios::in | std::ios::binary)
+    : std::istream(nullptr)
 {
+    auto file = std::make_unique<std::filebuf>();
     // A folder opens like a file here but has no bytes to give.
     std::error_code error;
-    if (std::filesystem::is_directory(path, error))
+    const bool opened = !std::filesystem::is_directory(path, error) && file->open(path, std::ios::in | std::ios::binary);
+    buffer = std::move(file);
+    rdbuf(buffer.get());
+    if (!opened)
         setstate(std::ios::failbit);
+    measure();
+}
+
+ibytestream::ibytestream(const char* data, std::size_t count)
+    : std::istream(nullptr)
+    , buffer(std::make_unique<std::stringbuf>(std::string(data, count), std::ios::in))
+{
+    rdbuf(buffer.get());
+    measure();
+}
+
+ibytestream::~ibytestream() = default;
+
+void ibytestream::measure()
+{
     if (!ok())
         return;
     seekg(0, std::ios::end);

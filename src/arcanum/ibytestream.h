@@ -2,22 +2,29 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
+#include <istream>
+#include <memory>
+#include <streambuf>
 #include <string>
 #include <type_traits>
 #include <vector>
 
 namespace arcanum {
 
-// Reads a binary file value by value, least significant byte first.
+// Reads a binary file, or bytes already in memory, value by value, least significant byte first.
 // A value the file runs out in the middle of keeps the bytes it held before, so a short file reads
 // as zeros past its end. A record that finds its data impossible says why through refuse(); the
 // reader of the whole file then gives up instead of trusting anything that follows.
-class ibytestream : public std::ifstream
+class ibytestream : public std::istream
 {
 public:
     // path is a byte string (QFile::encodeName), opened for reading in binary mode.
     explicit ibytestream(const std::string& path);
+    // The bytes are copied: a file read out of an archive needs no file of its own.
+    ibytestream(const char* data, std::size_t count);
+    ~ibytestream() override;
+    ibytestream(const ibytestream&) = delete;
+    ibytestream& operator=(const ibytestream&) = delete;
 
     // Neither failbit nor badbit: the file opened and nothing has run out yet.
     bool ok() const { return !fail(); }
@@ -66,6 +73,9 @@ private:
         return *this;
     }
 
+    void measure();
+
+    std::unique_ptr<std::streambuf> buffer;
     std::uint64_t size = 0;
     std::string damage;
     std::uint64_t damageAt = 0;

@@ -4,6 +4,8 @@
 #include <QTemporaryFile>
 
 #include <cstdio>
+#include <fstream>
+#include <sstream>
 
 namespace arcanum {
 
@@ -26,9 +28,19 @@ void takePermissions(const QString& from, const QString& to)
 
 } // namespace
 
-obytestream::obytestream(const std::string& path)
-    : target(path)
+obytestream::obytestream()
+    : std::ostream(nullptr)
+    , buffer(std::make_unique<std::stringbuf>(std::ios::out))
 {
+    rdbuf(buffer.get());
+}
+
+obytestream::obytestream(const std::string& path)
+    : std::ostream(nullptr)
+    , buffer(std::make_unique<std::filebuf>())
+    , target(path)
+{
+    rdbuf(buffer.get());
     // QTemporaryFile only reserves a unique name beside the target; the stream writes into it.
     QTemporaryFile reserve(fromBytes(path) + QStringLiteral(".XXXXXX"));
     reserve.setAutoRemove(false);
@@ -38,7 +50,8 @@ obytestream::obytestream(const std::string& path)
     }
     temporary = QFile::encodeName(reserve.fileName()).toStdString();
     reserve.close();
-    open(temporary, std::ios::out | std::ios::binary | std::ios::trunc);
+    if (!file()->open(temporary, std::ios::out | std::ios::binary | std::ios::trunc))
+        setstate(std::ios::failbit);
 }
 
 obytestream::~obytestream()
@@ -54,13 +67,27 @@ obytestream& obytestream::writeRaw(const std::uint8_t* data, std::size_t count)
     return *this;
 }
 
+std::filebuf* obytestream::file() const
+{
+    return dynamic_cast<std::filebuf*>(buffer.get());
+}
+
+std::string obytestream::bytes() const
+{
+    const auto* memory = dynamic_cast<const std::stringbuf*>(buffer.get());
+    return memory ? memory->str() : std::string();
+}
+
 bool obytestream::commit()
 {
+    if (!file())
+        return ok();
     if (temporary.empty() || committed)
         return false;
     flush();
     const bool written = ok();
-    close();
+    if (!file()->close())
+        setstate(std::ios::failbit);
     if (!written || !ok()) {
         discard();
         return false;
@@ -76,8 +103,8 @@ bool obytestream::commit()
 
 void obytestream::discard()
 {
-    if (is_open())
-        close();
+    if (file() && file()->is_open())
+        file()->close();
     if (!temporary.empty())
         std::remove(temporary.c_str());
     temporary.clear();

@@ -2,6 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <ostream>
+#include <streambuf>
 #include <fstream>
 #include <string>
 #include <type_traits>
@@ -12,11 +15,13 @@ namespace arcanum {
 // The bytes go to a temporary file beside the target; commit() puts it in the target's place in one
 // rename, so a save that fails half-way leaves the old file as it was. Destroyed without a
 // commit, the stream removes its temporary file and the target is never touched.
-class obytestream : public std::ofstream
+// Made without a path, it collects the bytes in memory instead (bytes()).
+class obytestream : public std::ostream
 {
 public:
     // path is a byte string (QFile::encodeName).
     explicit obytestream(const std::string& path);
+    obytestream();
     ~obytestream() override;
     obytestream(const obytestream&) = delete;
     obytestream& operator=(const obytestream&) = delete;
@@ -35,7 +40,10 @@ public:
     }
 
     // Closes the file and replaces the target with it; false (target untouched) when anything failed.
+    // In memory there is nothing to replace: true when every write succeeded.
     bool commit();
+    // What was written in memory; empty for a stream writing a file.
+    std::string bytes() const;
 
 private:
     template <typename T>
@@ -50,7 +58,10 @@ private:
     }
 
     void discard();
+    // The file being written; null in memory.
+    std::filebuf* file() const;
 
+    std::unique_ptr<std::streambuf> buffer;
     std::string target;
     std::string temporary;
     bool committed = false;

@@ -1,5 +1,7 @@
 #include "ArtWidget.h"
 
+#include "FormatRegistry.h"
+
 #include "ArtDocument.h"
 #include "ArtEditorWidget.h"
 #include "ArtHeaderWidget.h"
@@ -40,7 +42,7 @@ ArtWidget::~ArtWidget() = default;
 
 QStringList ArtWidget::suffixes() const
 {
-    return {QStringLiteral("art")};
+    return arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Art)->suffixes;
 }
 
 QString ArtWidget::fileFilter() const

@@ -1,5 +1,7 @@
 #include "DialogueEditWidget.h"
 
+#include "FormatRegistry.h"
+
 #include "ConversationGraph.h"
 #include "ConversationView.h"
 #include "DialogueDocument.h"
@@ -68,7 +70,7 @@ DialogueEditWidget::~DialogueEditWidget() = default;
 
 QStringList DialogueEditWidget::suffixes() const
 {
-    return {QStringLiteral("dlg")};
+    return arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Dialogue)->suffixes;
 }
 
 QString DialogueEditWidget::fileFilter() const

@@ -1,5 +1,7 @@
 #include "MesWidget.h"
 
+#include "FormatRegistry.h"
+
 #include "MesDocument.h"
 #include "MesTableModel.h"
 #include "Prompt.h"
@@ -51,7 +53,7 @@ MesWidget::~MesWidget() = default;
 
 QStringList MesWidget::suffixes() const
 {
-    return {QStringLiteral("mes")};
+    return arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Message)->suffixes;
 }
 
 QString MesWidget::fileFilter() const

@@ -1,19 +1,11 @@
 #include "ProtoDocument.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <iostream>
 #include <sstream>
 
 namespace {
-
-// The prototype model reads and writes files only; a scratch folder stands in for bytes in memory.
-QString scratchFile()
-{
-    static QTemporaryDir scratch;
-    return scratch.filePath(QStringLiteral("document.pro"));
-}
 
 std::string local(const QString& path)
 {
@@ -51,22 +43,16 @@ ProtoDocument::ProtoDocument(const QString& path)
 
 bool ProtoDocument::serialize(QByteArray& bytes, QString& error) const
 {
-    bool saved = false;
-    quietly([&] { saved = model.save(local(scratchFile())); });
-    QFile file(scratchFile());
-    if (!saved || !file.open(QIODevice::ReadOnly)) {
+    const std::string written = model.toBytes();
+    if (written.empty()) {
         error = tr("the prototype could not be written");
         return false;
     }
-    bytes = file.readAll();
+    bytes = QByteArray::fromStdString(written);
     return true;
 }
 
 void ProtoDocument::restoreModel(const QByteArray& bytes)
 {
-    QFile file(scratchFile());
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(bytes);
-    file.close();
-    quietly([&] { model.load(local(scratchFile())); });
+    quietly([&] { model.loadBytes(local(path()), bytes.constData(), std::size_t(bytes.size())); });
 }

@@ -1,5 +1,7 @@
 #include "ProtoWidget.h"
 
+#include "FormatRegistry.h"
+
 #include "Prompt.h"
 #include "ProtoDamagesWidget.h"
 #include "ProtoDocument.h"
@@ -88,7 +90,7 @@ ProtoWidget::~ProtoWidget() = default;
 
 QStringList ProtoWidget::suffixes() const
 {
-    return {QStringLiteral("pro")};
+    return arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Prototype)->suffixes;
 }
 
 QString ProtoWidget::fileFilter() const

@@ -1,5 +1,7 @@
 #include "ScriptWidget.h"
 
+#include "FormatRegistry.h"
+
 #include "DialogNewStatement.h"
 #include "Prompt.h"
 #include "ScriptDocument.h"
@@ -37,7 +39,7 @@ ScriptWidget::~ScriptWidget() = default;
 
 QStringList ScriptWidget::suffixes() const
 {
-    return {QStringLiteral("scr")};
+    return arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Script)->suffixes;
 }
 
 QString ScriptWidget::fileFilter() const
