@@ -276,6 +276,23 @@ private slots:
         QCOMPARE(winner(QStringLiteral("art/b.art")), QStringLiteral("modules/Arcanum/=module loose"));
         QCOMPARE(winner(QStringLiteral("proto/c.pro")), QStringLiteral("modules/Arcanum.patch0=patch"));
         QVERIFY(!view.find(QStringLiteral("mes/hidden.mes")));
+
+        // Where a save of each puts its loose override, and what a page list of a folder holds.
+        const auto overridePath = [&](const QString& path) {
+            return QDir(game).relativeFilePath(view.overridePath(*view.find(path)));
+        };
+        QCOMPARE(overridePath(QStringLiteral("mes/order.mes")), QStringLiteral("data/mes/order.mes"));
+        QCOMPARE(overridePath(QStringLiteral("proto/c.pro")), QStringLiteral("modules/Arcanum/proto/c.pro"));
+        QCOMPARE(view.filesIn(QStringLiteral("MES"), {QStringLiteral("mes")}).size(), 2);
+        QCOMPARE(view.filesBelow(QStringLiteral("art"), {QStringLiteral("art")}).size(), 1);
+
+        // Another module replaces the whole module part of the layers.
+        pack(QStringLiteral("modules/Vormantown.dat"), {{QStringLiteral("proto/c.pro"), "vormantown"}});
+        QCOMPARE(arcanum::GameView::modules(game), QStringList({"Arcanum", "Vormantown"}));
+        view.build(game, QStringLiteral("Vormantown"));
+        QCOMPARE(winner(QStringLiteral("proto/c.pro")), QStringLiteral("modules/Vormantown.dat=vormantown"));
+        QCOMPARE(winner(QStringLiteral("art/b.art")), QStringLiteral("arcanum2.dat=2"));
+        QCOMPARE(overridePath(QStringLiteral("proto/c.pro")), QStringLiteral("modules/Vormantown/proto/c.pro"));
     }
 
     void packsSmallerThanZlibsBest()

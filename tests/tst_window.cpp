@@ -79,6 +79,13 @@ void editFirstEntry(MainWindow& window, const QString& suffix = QStringLiteral("
     QVERIFY(window.mesPage()->document()->isModified());
 }
 
+QTreeWidgetItem* mesTreeItem(MainWindow& window, const QString& name)
+{
+    const QList<QTreeWidgetItem*> found = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"))
+                                              ->findItems(name, Qt::MatchRecursive | Qt::MatchExactly);
+    return found.isEmpty() ? nullptr : found.first();
+}
+
 void openItems(MainWindow& window, const ScratchGame& game)
 {
     window.openFiles({game.path(ITEMS)});
@@ -411,16 +418,46 @@ private slots:
                                                                    Qt::MatchRecursive | Qt::MatchExactly);
         QCOMPARE(overridden.first()->text(2), QStringLiteral("data/ (overrides arcanum1.dat)"));
         tree->setCurrentItem(found.first());
-        ScriptedAnswerer answers;
-        answers.buttons << QMessageBox::Yes << QMessageBox::Yes;
         QTest::mouseClick(window.gamePage()->findChild<QPushButton*>(QStringLiteral("buttonGameOpen")), Qt::LeftButton);
-        QVERIFY(answers.last(QStringLiteral("question"))->text.contains(QStringLiteral("loose file in data/mes")));
         const QString loose = game.path(QStringLiteral("/data/mes/archived_notes.mes"));
-        QCOMPARE(window.mesPage()->document()->path(), loose);
-        QVERIFY(window.mesPage()->document()->isModified());
+        Document* document = window.mesPage()->document();
+        QCOMPARE(document->path(), loose);
+        QCOMPARE(document->origin(), QStringLiteral("arcanum1.dat"));
+        QVERIFY(!document->isModified());
         QVERIFY(!QFile::exists(loose));
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::No;
+        QVERIFY(!window.mesPage()->save());
+        QVERIFY(answers.last(QStringLiteral("question"))->text.contains(QStringLiteral("loose file in data/mes")));
+        QVERIFY(!QFile::exists(loose));
+        answers.buttons << QMessageBox::Yes;
         QVERIFY(window.mesPage()->save());
         QVERIFY(game.bytes(QStringLiteral("/data/mes/archived_notes.mes")).contains("Opened from arcanum1.dat"));
+        // The list now shows the loose copy that overrides the archived one.
+        QTreeWidgetItem* listed = mesTreeItem(window, QStringLiteral("archived_notes.mes"));
+        QVERIFY(listed);
+        QVERIFY(listed->toolTip(0).contains(QStringLiteral("overrides arcanum1.dat")));
+        QVERIFY(listed->font(0).bold());
+    }
+
+    // The page lists show archived files beside loose ones; one opens from its archive.
+    void listsShowArchivedFiles()
+    {
+        ScratchGame game;
+        MainWindow window;
+        QTreeWidgetItem* archived = mesTreeItem(window, QStringLiteral("archived_notes.mes"));
+        QVERIFY(archived);
+        QVERIFY(archived->font(0).italic());
+        QVERIFY(archived->toolTip(0).contains(QStringLiteral("arcanum1.dat")));
+        QTreeWidgetItem* overriding = mesTreeItem(window, QStringLiteral("sample_items.mes"));
+        QVERIFY(overriding->toolTip(0).contains(QStringLiteral("overrides arcanum1.dat")));
+        window.findChild<QTreeWidget*>(QStringLiteral("treeMes"))->setCurrentItem(archived);
+        QCOMPARE(window.mesPage()->document()->origin(), QStringLiteral("arcanum1.dat"));
+        QCOMPARE(window.mesPage()->document()->path(), game.path(QStringLiteral("/data/mes/archived_notes.mes")));
+        // A loose file opens from disk as before.
+        window.findChild<QTreeWidget*>(QStringLiteral("treeMes"))->setCurrentItem(overriding);
+        QCOMPARE(window.mesPage()->document()->origin(), QString());
+        QCOMPARE(window.mesPage()->document()->path(), game.path(ITEMS));
     }
 
     void gameExtractsInTheBackground()

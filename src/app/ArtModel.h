@@ -1,14 +1,29 @@
 #pragma once
 
-#include <QFileSystemModel>
+#include "GameView.h"
 
-// File system model for the art tree: names only, no size, type or date columns.
-class ArtModel : public QFileSystemModel
+#include <QStandardItemModel>
+
+// The art tree: every art file and palette below art/ in the layered game, loose and archived, in
+// folders; an archived file in italics, its source in the tool tip.
+class ArtModel : public QStandardItemModel
 {
     Q_OBJECT
 
 public:
-    using QFileSystemModel::QFileSystemModel;
+    static constexpr int GamePathRole = Qt::UserRole + 1;
+    static constexpr int LoosePathRole = Qt::UserRole + 2;
 
-    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    using QStandardItemModel::QStandardItemModel;
+
+    void fill(const arcanum::GameView& view);
+    // The item of a loose file; invalid when the tree does not show it.
+    QModelIndex indexOfLoose(const QString& path) const;
+    // Hides every file whose name does not contain text (any case) and folders left empty.
+    void filter(class QTreeView* tree, const QString& text) const;
+
+private:
+    QStandardItem* folder(const QString& path);
+
+    QHash<QString, QStandardItem*> folders;
 };

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "FormatRegistry.h"
+#include "GameListing.h"
 
 #include "ArtModel.h"
 #include "ArtWidget.h"
@@ -92,12 +93,12 @@ MainWindow::MainWindow(QWidget* parent)
     ui->tabWidget->addTab(gameWidget, tr("Game"));
     tabTitles.append(tr("Game"));
     connect(gameWidget, &GameWidget::openRequested, this, &MainWindow::openGameFile);
+    connect(gameWidget, &GameWidget::viewChanged, this, [this] { updateFileList(); });
     gameWidget->rescan(manager.getBaseDirPath());
 
     createActions();
     createMenus();
     addFilterBoxes();
-    updateFileList();
     setStartFolders();
     applyConfirmations();
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, [this] { updateMarks(); });
@@ -166,7 +167,6 @@ void MainWindow::createActions()
     connect(actionRefresh, &QAction::triggered, this, [this] {
         manager.reloadAll();
         manager.reloadDlg();
-        updateFileList();
         gameWidget->rescan(manager.getBaseDirPath());
         statusBar()->showMessage(tr("File lists rescanned"), 3000);
     });
@@ -272,19 +272,14 @@ void MainWindow::applyFilter(QWidget* view, const QString& text)
                 group->child(i)->setHidden(hides(group->child(i)->text(0)));
         }
     } else if (view == ui->artTree) {
-        artModel->setNameFilterDisables(false);
-        artModel->setNameFilters(text.isEmpty() ? QStringList() : QStringList{QStringLiteral("*%1*").arg(text)});
+        artModel->filter(ui->artTree, text);
     }
 }
 
 void MainWindow::createArtTree()
 {
     artModel = new ArtModel(this);
-    const QString root = QDir::cleanPath(manager.getBaseDirPath() + QLatin1Char('/') + arcanum::ART_DIR);
-    artModel->setRootPath(root);
-    artModel->sort(0);
     ui->artTree->setModel(artModel);
-    ui->artTree->setRootIndex(artModel->index(root));
 }
 
 QString MainWindow::fullPath(const QString& subDir, const QString& name) const
@@ -292,31 +287,39 @@ QString MainWindow::fullPath(const QString& subDir, const QString& name) const
     return manager.getBaseDirPath() + QLatin1Char('/') + subDir + name;
 }
 
+QStringList MainWindow::suffixesOf(arcanum::FileFormat::Kind kind)
+{
+    return arcanum::FormatRegistry::byKind(kind)->suffixes;
+}
+
 void MainWindow::updateFileList()
 {
+    using Kind = arcanum::FileFormat::Kind;
+    const arcanum::GameView& view = gameWidget->view();
     reselecting = true;
     ui->listScripts->clear();
-    ui->listScripts->addItems(manager.scripts);
+    GameListing::fill(ui->listScripts, GameListing::entries(view, arcanum::SCRIPTS_DIR, manager.scripts, suffixesOf(Kind::Script)));
     ui->treeMes->clear();
-    addToMesTable(tr("MES"), arcanum::MES_DIR, manager.messages);
-    addToMesTable(tr("RULES"), arcanum::RULES_DIR, manager.rules);
-    addToMesTable(tr("SEMES"), arcanum::SEMES_DIR, manager.semes);
-    addToMesTable(tr("OEMES"), arcanum::OEMES_DIR, manager.oemes);
-    addToMesTable(tr("DLG"), arcanum::DLG_DIR, manager.dialogues);
+    addToMesTable(tr("MES"), arcanum::MES_DIR, manager.messages, Kind::Message);
+    addToMesTable(tr("RULES"), arcanum::RULES_DIR, manager.rules, Kind::Message);
+    addToMesTable(tr("SEMES"), arcanum::SEMES_DIR, manager.semes, Kind::Message);
+    addToMesTable(tr("OEMES"), arcanum::OEMES_DIR, manager.oemes, Kind::Message);
+    addToMesTable(tr("DLG"), arcanum::DLG_DIR, manager.dialogues, Kind::Dialogue);
     ui->protoList->clear();
-    ui->protoList->addItems(manager.prototypes);
+    GameListing::fill(ui->protoList, GameListing::entries(view, arcanum::PROTO_DIR, manager.prototypes, suffixesOf(Kind::Prototype)));
+    artModel->fill(view);
     reselecting = false;
     for (QLineEdit* box : filters)
         if (box != nullptr && !box->text().isEmpty())
             emit box->textChanged(box->text());
 }
 
-void MainWindow::addToMesTable(const QString& title, const QString& subDir, const QStringList& files)
+void MainWindow::addToMesTable(const QString& title, const QString& subDir, const QStringList& files,
+                               arcanum::FileFormat::Kind kind)
 {
     auto* top = new QTreeWidgetItem(QStringList(title));
     top->setData(0, Qt::UserRole, subDir);
-    for (const QString& name : files)
-        top->addChild(new QTreeWidgetItem(QStringList(name)));
+    GameListing::fill(top, GameListing::entries(gameWidget->view(), subDir, files, suffixesOf(kind)));
     ui->treeMes->addTopLevelItem(top);
     top->setExpanded(true);
 }
@@ -348,7 +351,7 @@ void MainWindow::on_listScripts_itemSelectionChanged()
 {
     const QListWidgetItem* item = ui->listScripts->currentItem();
     if (item && !reselecting)
-        openInPage(scriptWidget, fullPath(arcanum::SCRIPTS_DIR, item->text()));
+        openListed(scriptWidget, item->data(GameListing::GamePathRole).toString(), fullPath(arcanum::SCRIPTS_DIR, item->text()));
 }
 
 void MainWindow::on_treeMes_currentItemChanged(QTreeWidgetItem* current, QTreeWidgetItem* /*previous*/)
@@ -356,29 +359,59 @@ void MainWindow::on_treeMes_currentItemChanged(QTreeWidgetItem* current, QTreeWi
     if (!current || !current->parent() || current->childCount() > 0 || reselecting)
         return;
     const QString subDir = current->parent()->data(0, Qt::UserRole).toString();
-    openInPage(mesWidget, fullPath(subDir, current->text(0)));
+    openListed(mesWidget, current->data(0, GameListing::GamePathRole).toString(), fullPath(subDir, current->text(0)));
 }
 
 void MainWindow::on_artTree_activated(QModelIndex index)
 {
-    const auto* model = qobject_cast<const QFileSystemModel*>(ui->artTree->model());
-    if (!model)
+    const QString gamePath = index.data(ArtModel::GamePathRole).toString();
+    const arcanum::GameView& view = gameWidget->view();
+    const arcanum::GameView::File* file = gamePath.isEmpty() ? nullptr : view.find(gamePath);
+    if (file == nullptr)
         return;
-    const QFileInfo info = model->fileInfo(index);
-    if (info.isDir())
-        return;
-    const arcanum::FileFormat* format = arcanum::FormatRegistry::byPath(info.filePath());
-    if (format && format->kind == arcanum::FileFormat::Kind::Palette)
-        showPaletteFile(info.filePath());
-    else if (format && format->kind == arcanum::FileFormat::Kind::Art)
-        openInPage(artWidget, QDir::cleanPath(info.filePath()));
+    const arcanum::FileFormat* format = arcanum::FormatRegistry::byPath(gamePath);
+    if (format && format->kind == arcanum::FileFormat::Kind::Palette) {
+        if (view.archived(*file))
+            Prompt::message(this, QMessageBox::Information, tr("Palette"),
+                            tr("%1 is inside %2: extract it from the Game tab to edit it.")
+                                .arg(gamePath, view.layers().at(file->layer).name));
+        else
+            showPaletteFile(view.loosePath(*file));
+    } else if (format && format->kind == arcanum::FileFormat::Kind::Art) {
+        openListed(artWidget, gamePath, QDir::cleanPath(view.loosePath(*file)));
+    }
 }
 
 void MainWindow::on_protoList_itemSelectionChanged()
 {
     const QListWidgetItem* item = ui->protoList->currentItem();
     if (item && !reselecting)
-        openInPage(protoWidget, fullPath(arcanum::PROTO_DIR, item->text()));
+        openListed(protoWidget, item->data(GameListing::GamePathRole).toString(), fullPath(arcanum::PROTO_DIR, item->text()));
+}
+
+bool MainWindow::listsShow(const QString& path) const
+{
+    const QDir base(manager.getBaseDirPath());
+    const QString relative = base.relativeFilePath(path);
+    if (relative.startsWith(QLatin1String("../")))
+        return true; // outside the game: no list shows it anyway
+    const arcanum::GameView& view = gameWidget->view();
+    const QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    for (const arcanum::GameView::File& file : view.files())
+        if (!view.archived(file) && QDir::cleanPath(view.loosePath(file)) == clean)
+            return true;
+    return false;
+}
+
+// A listed file the game takes from an archive or the module's folder opens as the Game tab would open it.
+void MainWindow::openListed(Page* page, const QString& gamePath, const QString& loosePath)
+{
+    const arcanum::GameView& view = gameWidget->view();
+    const arcanum::GameView::File* file = gamePath.isEmpty() ? nullptr : view.find(gamePath);
+    if (file != nullptr && (view.archived(*file) || QFileInfo(view.loosePath(*file)) != QFileInfo(loosePath)))
+        gameWidget->open(*file);
+    else
+        openInPage(page, loosePath);
 }
 
 bool MainWindow::openInPage(Page* page, const QString& path)
@@ -416,7 +449,8 @@ void MainWindow::showPaletteFile(const QString& path)
     Prompt::run(dialog);
 }
 
-// An archived file opens as a copy whose first save writes the loose file that overrides it.
+// An archived file opens as read from its archive; its first save writes the loose file that
+// overrides it (the page asks first, naming the folder).
 void MainWindow::openGameFile(const QString& gamePath, const QByteArray& bytes, const QString& savePath, bool archived)
 {
     if (!archived) {
@@ -429,14 +463,10 @@ void MainWindow::openGameFile(const QString& gamePath, const QByteArray& bytes, 
                         tr("%1: not a file qtLoreka edits (.mes, .dlg, .scr, .art, .pro)").arg(gamePath));
         return;
     }
-    const QString folder = QDir(manager.getBaseDirPath()).relativeFilePath(QFileInfo(savePath).absolutePath());
-    if (Prompt::question(this, tr("Open archived file"),
-                         tr("%1 is inside an archive. It opens as a copy; saving writes it as a loose file in %2, "
-                            "which then overrides the archived one. Open it?")
-                             .arg(gamePath, folder),
-                         QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
-            != QMessageBox::Yes
-        || !page->settle())
+    showPage(page);
+    if (page->document() != nullptr && page->document()->path() == savePath)
+        return;
+    if (!page->settle())
         return;
     QString error;
     std::unique_ptr<Document> document = page->fromBytes(savePath, bytes, error);
@@ -445,9 +475,16 @@ void MainWindow::openGameFile(const QString& gamePath, const QByteArray& bytes, 
                         tr("Could not open %1: %2").arg(gamePath, error));
         return;
     }
-    document->markUnsaved();
-    ui->tabWidget->setCurrentIndex(pageTabs.at(size_t(std::find(pages.begin(), pages.end(), page) - pages.begin())));
+    const arcanum::GameView& view = gameWidget->view();
+    const arcanum::GameView::File* file = view.find(gamePath);
+    const QString archive = file ? view.layers().at(file->layer).name : tr("an archive");
+    document->setOrigin(archive, QDir(manager.getBaseDirPath()).relativeFilePath(QFileInfo(savePath).absolutePath()));
     page->setDocument(std::move(document));
+}
+
+void MainWindow::showPage(Page* page)
+{
+    ui->tabWidget->setCurrentIndex(pageTabs.at(size_t(std::find(pages.begin(), pages.end(), page) - pages.begin())));
 }
 
 Page* MainWindow::pageFor(const QString& path) const
@@ -525,11 +562,17 @@ void MainWindow::documentReplaced(Page* page, Document* document)
             rewatch();
             // After Save As the art tree shows the file the page now has.
             if (page == artWidget && artModel != nullptr)
-                ui->artTree->setCurrentIndex(artModel->index(path));
+                ui->artTree->setCurrentIndex(artModel->indexOfLoose(path));
         });
         connect(document, &Document::saved, this, [this](const QString& path) {
             watcher->savedByUs(path);
             recoveryStore->drop(path);
+            // A new file, or the loose copy that now overrides an archived one, belongs in the lists.
+            if (!listsShow(path)) {
+                manager.reloadAll();
+                manager.reloadDlg();
+                gameWidget->rescan(manager.getBaseDirPath());
+            }
         });
         connect(document, &Document::changed, banner, [banner, document] { banner->showDamageOf(document); });
     }
@@ -697,12 +740,8 @@ bool MainWindow::changeBaseDir(const QString& path)
         page->setDocument(nullptr);
     manager.reloadAll();
     manager.reloadDlg();
-    updateFileList();
     gameWidget->rescan(manager.getBaseDirPath());
     setStartFolders();
-    const QString root = QDir::cleanPath(manager.getBaseDirPath() + QLatin1Char('/') + arcanum::ART_DIR);
-    artModel->setRootPath(root);
-    ui->artTree->setRootIndex(artModel->index(root));
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileFormat.h"
 #include "Manager.h"
 
 #include <QMainWindow>
@@ -86,9 +87,15 @@ private:
     void addFilterBoxes();
     void createArtTree();
     QString fullPath(const QString& subDir, const QString& name) const;
-    void addToMesTable(const QString& title, const QString& subDir, const QStringList& files);
+    void addToMesTable(const QString& title, const QString& subDir, const QStringList& files,
+                       arcanum::FileFormat::Kind kind);
+    static QStringList suffixesOf(arcanum::FileFormat::Kind kind);
+    // Whether the game view already has path as a loose file.
+    bool listsShow(const QString& path) const;
+    void openListed(Page* page, const QString& gamePath, const QString& loosePath);
     void applyFilter(QWidget* view, const QString& text);
     Page* currentPage() const;
+    void showPage(Page* page);
     Page* pageFor(const QString& path) const;
     void showPaletteFile(const QString& path);
     void openGameFile(const QString& gamePath, const QByteArray& bytes, const QString& savePath, bool archived);

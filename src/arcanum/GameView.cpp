@@ -15,6 +15,8 @@ void GameView::build(const QString& base, const QString& module)
     fileList.clear();
     byKey.clear();
     problemList.clear();
+    basePath = base;
+    moduleName = module;
     const QDir root(base);
     addArchive(QStringLiteral("tig.dat"), root.filePath(QStringLiteral("tig.dat")));
     // arcanum1.dat, arcanum2.dat … in number order, not name order (arcanum10 after arcanum9).
@@ -113,6 +115,75 @@ bool GameView::read(const File& file, QByteArray& bytes, QString& error) const
     }
     const int entry = layer.archive->find(file.path);
     return entry >= 0 && layer.archive->read(layer.archive->entries().at(entry), bytes, error);
+}
+
+namespace {
+
+bool hasSuffix(const QString& path, const QStringList& suffixes)
+{
+    const int dot = path.lastIndexOf(QLatin1Char('.'));
+    return dot >= 0 && suffixes.contains(path.mid(dot + 1).toLower());
+}
+
+} // namespace
+
+QVector<const GameView::File*> GameView::filesIn(const QString& folder, const QStringList& suffixes) const
+{
+    QVector<const File*> found;
+    const QString prefix = folder.toLower() + QLatin1Char('/');
+    for (const File& file : fileList) {
+        if (file.path.size() > prefix.size() && file.path.left(prefix.size()).toLower() == prefix
+            && file.path.indexOf(QLatin1Char('/'), prefix.size()) < 0 && hasSuffix(file.path, suffixes))
+            found.append(&file);
+    }
+    return found;
+}
+
+QVector<const GameView::File*> GameView::filesBelow(const QString& folder, const QStringList& suffixes) const
+{
+    QVector<const File*> found;
+    const QString prefix = folder.toLower() + QLatin1Char('/');
+    for (const File& file : fileList) {
+        if (file.path.left(prefix.size()).toLower() == prefix && hasSuffix(file.path, suffixes))
+            found.append(&file);
+    }
+    return found;
+}
+
+QString GameView::loosePath(const File& file) const
+{
+    const Layer& layer = layerList.at(file.layer);
+    return layer.loose ? QDir(layer.path).filePath(file.path) : QString();
+}
+
+QString GameView::overridePath(const File& file) const
+{
+    const QString layer = layerList.at(file.layer).name;
+    const QString folder = layer.startsWith(QLatin1String("modules/")) ? QStringLiteral("modules/") + moduleName
+                                                                       : QStringLiteral("data");
+    return QDir(basePath).filePath(folder + QLatin1Char('/') + file.path);
+}
+
+QString GameView::source(const File& file) const
+{
+    QString text = layerList.at(file.layer).name;
+    if (file.hidden.isEmpty())
+        return text;
+    QStringList hidden;
+    for (int layer : file.hidden)
+        hidden << layerList.at(layer).name;
+    return QStringLiteral("%1 (overrides %2)").arg(text, hidden.join(QStringLiteral(", ")));
+}
+
+QStringList GameView::modules(const QString& base)
+{
+    const QDir folder(QDir(base).filePath(QStringLiteral("modules")));
+    QStringList names = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& archive : folder.entryList({QStringLiteral("*.dat")}, QDir::Files))
+        names.append(QFileInfo(archive).completeBaseName());
+    names.removeDuplicates();
+    names.sort(Qt::CaseInsensitive);
+    return names;
 }
 
 } // namespace arcanum

@@ -42,12 +42,29 @@ public:
     const File* find(const QString& path) const;
     // The bytes the engine would read for a path.
     bool read(const File& file, QByteArray& bytes, QString& error) const;
+    // The files directly in folder ("scr", "mes"), any letter case, with one of the suffixes.
+    QVector<const File*> filesIn(const QString& folder, const QStringList& suffixes) const;
+    // Every file below folder, at any depth, with one of the suffixes.
+    QVector<const File*> filesBelow(const QString& folder, const QStringList& suffixes) const;
+    bool archived(const File& file) const { return !layerList.at(file.layer).loose; }
+    // Where the file lies on disk; empty for an archived one.
+    QString loosePath(const File& file) const;
+    // Where a save of an archived file puts the loose copy that overrides it: below data/ for files of
+    // tig.dat and arcanumN.dat, below modules/M/ for those of the module's archives.
+    QString overridePath(const File& file) const;
+    // "arcanum1.dat", or "data/ (overrides arcanum1.dat)".
+    QString source(const File& file) const;
+    // The modules a game directory offers: folders and archives below modules/, sorted.
+    static QStringList modules(const QString& base);
+    const QString& module() const { return moduleName; }
 
 private:
     void addArchive(const QString& name, const QString& path);
     void addFolder(const QString& name, const QString& path);
     void add(int layer, const QString& path, qint64 size);
 
+    QString basePath;
+    QString moduleName;
     QVector<Layer> layerList;
     QVector<File> fileList;
     QHash<QString, int> byKey;

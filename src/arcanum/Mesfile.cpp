@@ -238,9 +238,8 @@ QString Mesfile::getColumnTitle(EntryType type) const
 
 void Mesfile::setFilename(const QString& name)
 {
+    // No check that the file exists: a file read out of an archive is named for where its save goes.
     file.setFileName(name);
-    if (!QFile::exists(name))
-        qWarning("Chosen file doesn't exist");
 }
 
 bool Mesfile::loadFile(const QString& fileName, QTextCodec* codec)

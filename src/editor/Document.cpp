@@ -50,9 +50,17 @@ bool Document::save(const QString& path, QString& error)
         return false;
     }
     setPath(path);
+    originArchive.clear();
+    originFolder.clear();
     stack->setClean();
     emit saved(filePath);
     return true;
+}
+
+void Document::setOrigin(const QString& archive, const QString& folder)
+{
+    originArchive = archive;
+    originFolder = folder;
 }
 
 void Document::beginEdit()

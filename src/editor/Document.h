@@ -27,6 +27,12 @@ public:
     // Opened from a recovery copy or otherwise holding what no file on disk has: modified until saved.
     void markUnsaved();
 
+    // Read out of an archive: the archive's name, and the folder (relative to the game) where its
+    // first save puts the loose copy that overrides it. Empty for a file read from disk.
+    void setOrigin(const QString& archive, const QString& folder);
+    QString origin() const { return originArchive; }
+    QString overrideFolder() const { return originFolder; }
+
     // The bytes a save would write; false and the reason when the model cannot be written.
     virtual bool serialize(QByteArray& bytes, QString& error) const = 0;
     // Why a save of the document as it stands would change what the user did not edit ("Saving in
@@ -62,6 +68,8 @@ signals:
 
 private:
     QString filePath;
+    QString originArchive;
+    QString originFolder;
     QByteArray editStart;
     QUndoStack* stack = nullptr;
 };

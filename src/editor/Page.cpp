@@ -61,6 +61,23 @@ bool Page::save()
         return false;
     commitPending();
     const QString path = document()->path();
+    if (!document()->origin().isEmpty()) {
+        if (Prompt::question(this, tr("Save"),
+                             tr("%1 comes from %2. Saving writes it as a loose file in %3, which then overrides the "
+                                "archived copy. Save?")
+                                 .arg(document()->displayName(), document()->origin(), document()->overrideFolder()),
+                             QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
+            != QMessageBox::Yes)
+            return false;
+        // A loose file there is someone's work: never replaced without asking, whatever the settings say.
+        if (QFileInfo::exists(path)
+            && Prompt::question(this, tr("Save"), tr("Overwrite %1?").arg(QDir::toNativeSeparators(path)),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+                   != QMessageBox::Yes)
+            return false;
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        return SaveGuard::saveInPlace(this, document(), fileFilter(), dialogFolder());
+    }
     if (confirmOverwrite && !path.isEmpty() && QFileInfo::exists(path)
         && Prompt::question(this, tr("Save"), tr("Overwrite %1?").arg(document()->displayName()),
                             QMessageBox::Yes | QMessageBox::No, QMessageBox::No)

@@ -4,7 +4,10 @@
 #include "Prompt.h"
 #include "SafeSave.h"
 
+#include "gui.h"
+
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFutureWatcher>
 #include <QHBoxLayout>
@@ -33,6 +36,7 @@ GameWidget::GameWidget(QWidget* parent)
     , filter(new QLineEdit(this))
     , tree(new QTreeWidget(this))
     , summary(new QLabel(this))
+    , moduleBox(new QComboBox(this))
 {
     setObjectName(QStringLiteral("GameWidget"));
     filter->setObjectName(QStringLiteral("gameFilter"));
@@ -46,8 +50,14 @@ GameWidget::GameWidget(QWidget* parent)
     tree->header()->setStretchLastSection(false);
     tree->header()->resizeSection(SizeColumn, 90);
     tree->header()->resizeSection(SourceColumn, 260);
+    moduleBox->setObjectName(QStringLiteral("moduleBox"));
+    moduleBox->setToolTip(tr("The module whose archives and folder below modules/ are layered over the game's data"));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(filter, 1);
+    auto* moduleLabel = new QLabel(tr("Module:"), this);
+    moduleLabel->setBuddy(moduleBox);
+    buttons->addWidget(moduleLabel);
+    buttons->addWidget(moduleBox);
     const std::vector<std::tuple<QString, QString, QString, void (GameWidget::*)()>> actions = {
         {QStringLiteral("buttonGameOpen"), tr("Open"), tr("Open the selected file in the page of its kind"),
          &GameWidget::openSelected},
@@ -68,13 +78,33 @@ GameWidget::GameWidget(QWidget* parent)
     column->addWidget(summary);
     connect(filter, &QLineEdit::textChanged, this, &GameWidget::applyFilter);
     connect(tree, &QTreeWidget::itemActivated, this, [this] { openSelected(); });
+    connect(moduleBox, &QComboBox::textActivated, this, [this](const QString& module) {
+        gui::settings.setValue(QStringLiteral("Directories/Module"), module);
+        build(module);
+    });
 }
 
 void GameWidget::rescan(const QString& base)
 {
     baseDir = base;
-    game.build(base);
+    // The engine's own module unless the user picked another one this game offers.
+    QStringList modules = GameView::modules(base);
+    const QString chosen = gui::settings.value(QStringLiteral("Directories/Module"), QStringLiteral("Arcanum")).toString();
+    const QString module = modules.contains(chosen, Qt::CaseInsensitive) ? chosen : QStringLiteral("Arcanum");
+    if (!modules.contains(module, Qt::CaseInsensitive))
+        modules.prepend(module);
+    const QSignalBlocker quiet(moduleBox);
+    moduleBox->clear();
+    moduleBox->addItems(modules);
+    moduleBox->setCurrentIndex(moduleBox->findText(module, Qt::MatchFixedString));
+    build(module);
+}
+
+void GameWidget::build(const QString& module)
+{
+    game.build(baseDir, module);
     fill();
+    emit viewChanged();
 }
 
 QTreeWidgetItem* GameWidget::folderItem(const QString& folder)
@@ -104,13 +134,9 @@ void GameWidget::fill()
         item->setText(NameColumn, file.path.mid(slash + 1));
         item->setText(SizeColumn, QString::number(file.size));
         item->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);
-        QString source = game.layers().at(file.layer).name;
+        const QString source = game.source(file);
         if (!file.hidden.isEmpty()) {
             ++overridden;
-            QStringList hidden;
-            for (int layer : file.hidden)
-                hidden << game.layers().at(layer).name;
-            source += tr(" (overrides %1)").arg(hidden.join(QStringLiteral(", ")));
             QFont italic = item->font(NameColumn);
             italic.setItalic(true);
             item->setFont(NameColumn, italic);
@@ -163,27 +189,18 @@ QList<const GameView::File*> GameWidget::selectedFiles() const
     return chosen;
 }
 
-QString GameWidget::overridePath(const GameView::File& file) const
-{
-    // Files of tig.dat and arcanumN.dat are overridden below data/, those of the module's archives below it.
-    const QString layer = game.layers().at(file.layer).name;
-    const int slash = layer.lastIndexOf(QLatin1Char('/'));
-    const QString folder = layer.startsWith(QLatin1String("modules/"))
-                               ? layer.left(layer.indexOf(QLatin1Char('.'), slash))
-                               : QStringLiteral("data");
-    return QDir(baseDir).filePath(folder + QLatin1Char('/') + file.path);
-}
-
 void GameWidget::openSelected()
 {
     const QList<const GameView::File*> files = selectedFiles();
     if (files.size() != 1)
         return;
-    const GameView::File& file = *files.first();
-    const GameView::Layer& layer = game.layers().at(file.layer);
-    if (layer.loose) {
-        const QString path = QDir(layer.path).filePath(file.path);
-        emit openRequested(file.path, QByteArray(), path, false);
+    open(*files.first());
+}
+
+void GameWidget::open(const GameView::File& file)
+{
+    if (!game.archived(file)) {
+        emit openRequested(file.path, QByteArray(), game.loosePath(file), false);
         return;
     }
     QByteArray bytes;
@@ -192,7 +209,7 @@ void GameWidget::openSelected()
         Prompt::message(this, QMessageBox::Warning, tr("Cannot open file"), error);
         return;
     }
-    emit openRequested(file.path, bytes, overridePath(file), true);
+    emit openRequested(file.path, bytes, game.overridePath(file), true);
 }
 
 bool GameWidget::runWithProgress(const QString& title, int total,
