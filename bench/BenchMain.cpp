@@ -2,6 +2,7 @@
 // printed with its ratio to a memcpy of as many bytes, timed in the same run, and with its target.
 #include "BenchCases.h"
 #include "BenchInputs.h"
+#include "DatArchive.h"
 #include "Mesfile.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ namespace {
 
 constexpr double MB = 1e6;
 const char* const PEAK_OPTION = "--peak-mes";
+const char* const PEAK_DAT_OPTION = "--peak-dat";
 
 // Seconds per iteration of each benchmark: the median when repeated, else the single run.
 class SummaryReporter : public benchmark::ConsoleReporter
@@ -66,6 +68,13 @@ int measurePeakChild(int argc, char** argv, const char* path)
 {
     QCoreApplication app(argc, argv);
     const double before = peakResident();
+    if (std::strcmp(argv[1], PEAK_DAT_OPTION) == 0) {
+        arcanum::DatArchive archive;
+        QString error;
+        archive.open(QFile::decodeName(path), error);
+        std::printf("%.0f %.0f %d\n", before, peakResident(), int(archive.entries().size()));
+        return 0;
+    }
     arcanum::Mesfile mes(QFile::decodeName(path));
     mes.load(QTextCodec::codecForName("UTF-8"));
     std::printf("%.0f %.0f %d\n", before, peakResident(), mes.getEntryCount());
@@ -78,10 +87,10 @@ struct Peak
     double after = 0;
 };
 
-Peak measurePeak(const QString& path)
+Peak measurePeak(const char* option, const QString& path)
 {
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(PEAK_OPTION), path});
+    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(option), path});
     child.waitForFinished(-1);
     const QList<QByteArray> words = child.readAllStandardOutput().trimmed().split(' ');
     return {words.value(0).toDouble(), words.value(1).toDouble()};
@@ -111,7 +120,7 @@ const char* verdict(const BenchCase& c, double seconds, double rate)
     return met ? "met" : "MISSED";
 }
 
-void printSummary(const std::vector<BenchCase>& cases, const SummaryReporter& reporter, const Peak& peak,
+void printSummary(const std::vector<BenchCase>& cases, const SummaryReporter& reporter, const Peak& peak, const Peak& dat,
                   double mesBytes)
 {
     std::printf("\n%-40s %10s %10s %12s %8s  %-12s %s\n", "case", "ms", "MB/s", "memcpy MB/s", "ratio", "target",
@@ -131,6 +140,9 @@ void printSummary(const std::vector<BenchCase>& cases, const SummaryReporter& re
     std::printf("%-40s %10.1f MB peak (%.1f MB over the %.1f MB start) = %.2f x the %.1f MB file  target < 10 x  %s\n",
                 "peak memory, mes load", peak.after / MB, grown / MB, peak.before / MB, grown / mesBytes,
                 mesBytes / MB, grown < 10 * mesBytes ? "met" : "MISSED");
+    const double directory = dat.after - dat.before;
+    std::printf("%-40s %10.1f MB over the %.1f MB start  target < 40 MB  %s\n", "peak memory, archive directory 100 000",
+                directory / MB, dat.before / MB, directory < 40 * MB ? "met" : "MISSED");
     std::fflush(stdout);
 }
 
@@ -138,7 +150,7 @@ void printSummary(const std::vector<BenchCase>& cases, const SummaryReporter& re
 
 int main(int argc, char** argv)
 {
-    if (argc == 3 && std::strcmp(argv[1], PEAK_OPTION) == 0)
+    if (argc == 3 && (std::strcmp(argv[1], PEAK_OPTION) == 0 || std::strcmp(argv[1], PEAK_DAT_OPTION) == 0))
         return measurePeakChild(argc, argv, argv[2]);
     benchmark::Initialize(&argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -163,8 +175,9 @@ int main(int argc, char** argv)
         SummaryReporter reporter;
         benchmark::RunSpecifiedBenchmarks(&reporter);
         const QString mes = BenchInputs::mesPath(game);
-        const Peak peak = measurePeak(mes);
-        printSummary(cases, reporter, peak, double(QFileInfo(mes).size()));
+        const Peak peak = measurePeak(PEAK_OPTION, mes);
+        const Peak dat = measurePeak(PEAK_DAT_OPTION, out + QStringLiteral("/directory.dat"));
+        printSummary(cases, reporter, peak, dat, double(QFileInfo(mes).size()));
         // The benchmarks hold pages that must go before the application does.
         benchmark::ClearRegisteredBenchmarks();
     }

@@ -135,12 +135,13 @@ void GameWidget::fill()
         item->setText(SizeColumn, QString::number(file.size));
         item->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);
         const QString source = game.source(file);
-        if (!file.hidden.isEmpty()) {
+        if (!file.hidden.isEmpty())
             ++overridden;
-            QFont italic = item->font(NameColumn);
-            italic.setItalic(true);
-            item->setFont(NameColumn, italic);
-        }
+        // As in the page lists: archived in italics, a loose file hiding an archived copy in bold.
+        QFont font = item->font(NameColumn);
+        font.setItalic(game.archived(file));
+        font.setBold(!game.archived(file) && !file.hidden.isEmpty());
+        item->setFont(NameColumn, font);
         item->setText(SourceColumn, source);
         item->setToolTip(NameColumn, file.path);
         item->setToolTip(SourceColumn, source);
