@@ -342,6 +342,33 @@ private slots:
         QCOMPARE(answers.count(QStringLiteral("question")), 1);
     }
 
+    // Every page says the same things in the same place: what is open, or what to do when nothing is.
+    void framesNameTheOpenFile()
+    {
+        ScratchGame game;
+        MainWindow window;
+        QWidget* frame = window.mesPage()->parentWidget();
+        auto* title = frame->findChild<QLabel*>(QStringLiteral("frameTitle"));
+        auto* detail = frame->findChild<QLabel*>(QStringLiteral("frameDetail"));
+        auto* save = frame->findChild<QPushButton*>(QStringLiteral("frameSave"));
+        QCOMPARE(title->text(), QStringLiteral("No file open"));
+        QVERIFY(detail->text().contains(QStringLiteral("Ctrl+O")));
+        QVERIFY(!save->isEnabled());
+        openItems(window, game);
+        QVERIFY(title->text().contains(QStringLiteral("sample_items.mes")));
+        QVERIFY(detail->text().startsWith(QStringLiteral("message file")));
+        QVERIFY(!save->isEnabled());
+        editFirstEntry(window);
+        QVERIFY(title->text().endsWith(QStringLiteral(" *")));
+        QVERIFY(save->isEnabled());
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes; // "Overwrite sample_items.mes?"
+        QTest::mouseClick(save, Qt::LeftButton);
+        QVERIFY(!window.mesPage()->document()->isModified());
+        QVERIFY(game.bytes(ITEMS).contains("(edited)"));
+        QVERIFY(!save->isEnabled());
+    }
+
     void pagesFitTheWindow_data()
     {
         QTest::addColumn<QSize>("size");

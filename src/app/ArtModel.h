@@ -4,6 +4,8 @@
 
 #include <QStandardItemModel>
 
+class QTreeView;
+
 // The art tree: every art file and palette below art/ in the layered game, loose and archived, in
 // folders; an archived file in italics, its source in the tool tip.
 class ArtModel : public QStandardItemModel
@@ -20,7 +22,7 @@ public:
     // The item of a loose file; invalid when the tree does not show it.
     QModelIndex indexOfLoose(const QString& path) const;
     // Hides every file whose name does not contain text (any case) and folders left empty.
-    void filter(class QTreeView* tree, const QString& text) const;
+    void filter(QTreeView* tree, const QString& text) const;
 
 private:
     QStandardItem* folder(const QString& path);

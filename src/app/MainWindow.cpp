@@ -2,6 +2,7 @@
 
 #include "FormatRegistry.h"
 #include "GameListing.h"
+#include "PageFrame.h"
 
 #include "ArtModel.h"
 #include "ArtWidget.h"
@@ -79,16 +80,21 @@ MainWindow::MainWindow(QWidget* parent)
 
     scriptWidget = new ScriptWidget(this);
     scriptWidget->setMinimumHeight(280);
-    addPage(scriptWidget, ui->scriptsRightLayout, ui->tabWidget->indexOf(ui->tabScripts));
+    addPage(scriptWidget, ui->scriptsRightLayout, ui->tabWidget->indexOf(ui->tabScripts),
+            tr("Pick a script in the list on the left, or open one with Ctrl+O."));
     mesWidget = new MesWidget(this);
-    addPage(mesWidget, ui->mesLayout, ui->tabWidget->indexOf(ui->tabMes));
+    addPage(mesWidget, ui->mesLayout, ui->tabWidget->indexOf(ui->tabMes),
+            tr("Pick a message file in the tree on the left, or open one with Ctrl+O."));
     dialogueWidget = new DialogueEditWidget(this);
-    addPage(dialogueWidget, ui->dialogueLayout, ui->tabWidget->indexOf(ui->tabDialogue));
+    addPage(dialogueWidget, ui->dialogueLayout, ui->tabWidget->indexOf(ui->tabDialogue),
+            tr("Open a dialogue file with Ctrl+O; the game keeps them in data/dlg/."));
     createArtTree();
     artWidget = new ArtWidget(this);
-    addPage(artWidget, ui->artLayout, ui->tabWidget->indexOf(ui->tabArt));
+    addPage(artWidget, ui->artLayout, ui->tabWidget->indexOf(ui->tabArt),
+            tr("Pick an art file in the tree on the left, or open one with Ctrl+O."));
     protoWidget = new ProtoWidget(this);
-    addPage(protoWidget, ui->protoLayout, ui->tabWidget->indexOf(ui->tabProto));
+    addPage(protoWidget, ui->protoLayout, ui->tabWidget->indexOf(ui->tabProto),
+            tr("Pick a prototype in the list on the left, or open one with Ctrl+O."));
     gameWidget = new GameWidget(this);
     ui->tabWidget->addTab(gameWidget, tr("Game"));
     tabTitles.append(tr("Game"));
@@ -121,15 +127,12 @@ MainWindow::~MainWindow()
         disconnect(page, nullptr, this, nullptr);
 }
 
-void MainWindow::addPage(Page* page, QLayout* layout, int tab)
+void MainWindow::addPage(Page* page, QLayout* layout, int tab, const QString& hint)
 {
-    auto* box = new QWidget(this);
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(0, 0, 0, 0);
-    auto* banner = new DamageBanner(box);
-    column->addWidget(banner);
-    column->addWidget(page, 1);
-    layout->addWidget(box);
+    auto* frame = new PageFrame(page, hint, this);
+    auto* banner = new DamageBanner(frame);
+    frame->insertAbovePage(banner);
+    layout->addWidget(frame);
     pages.push_back(page);
     pageTabs.push_back(tab);
     banners.push_back(banner);

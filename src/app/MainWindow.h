@@ -81,7 +81,7 @@ private slots:
     void on_actionExit_triggered();
 
 private:
-    void addPage(Page* page, QLayout* layout, int tab);
+    void addPage(Page* page, QLayout* layout, int tab, const QString& hint);
     void createActions();
     void createMenus();
     void addFilterBoxes();
