@@ -423,13 +423,7 @@ private slots:
                     && !qobject_cast<QPlainTextEdit*>(area) && !qobject_cast<QTextEdit*>(area))
                     cut.append(QStringLiteral("%1: %2 scrolls sideways").arg(tabs->tabText(tab), area->objectName()));
         }
-        const QStringList proto = cut.filter(QRegularExpression(QStringLiteral("^Proto: ")));
-        for (const QString& problem : proto)
-            cut.removeAll(problem);
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
-        // Known: at 1024 pixels the weapon form with its damage tables still needs about 800.
-        QEXPECT_FAIL("small 1024 × 700", "the Proto form's weapon group is wider than the small page", Continue);
-        QVERIFY2(proto.isEmpty(), qPrintable(proto.join(QStringLiteral("; "))));
     }
 
     void archivedFileOpensAsALooseCopy()

@@ -43,6 +43,11 @@
 #include <QUndoView>
 
 namespace {
+
+// Below this window width the file lists narrow from WIDE_LIST to NARROW_LIST pixels.
+constexpr int WIDE_WINDOW = 1150;
+constexpr int WIDE_LIST = 280;
+constexpr int NARROW_LIST = 160;
 const int RECOVERY_INTERVAL_MS = 30 * 1000;
 const char* const KEY_GEOMETRY = "Window/Geometry";
 const char* const KEY_STATE = "Window/State";
@@ -257,8 +262,21 @@ void MainWindow::addFilterBoxes()
         columnLayout->addWidget(box);
         columnLayout->addWidget(view, 1);
         column->setMaximumWidth(view->maximumWidth());
+        listColumns.push_back(column);
         connect(box, &QLineEdit::textChanged, this, [this, view](const QString& text) { applyFilter(view, text); });
         filters.push_back(box);
+    }
+}
+
+// In a small window the file lists give way, so the forms beside them need no sideways scrolling.
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    const int listWidth = width() < WIDE_WINDOW ? NARROW_LIST : WIDE_LIST;
+    for (QWidget* column : listColumns) {
+        column->setMaximumWidth(listWidth);
+        for (QWidget* child : column->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            child->setFixedWidth(listWidth);
     }
 }
 

@@ -68,6 +68,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -128,6 +129,7 @@ private:
     DiskWatcher* watcher = nullptr;
     std::unique_ptr<RecoveryStore> recoveryStore;
     std::vector<QLineEdit*> filters;
+    std::vector<QWidget*> listColumns;
     QAction* actionSave = nullptr;
     QAction* actionSaveAs = nullptr;
     QAction* actionOpen = nullptr;

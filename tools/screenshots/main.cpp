@@ -40,21 +40,27 @@ int main(int argc, char* argv[])
 
     MainWindow window;
     window.setWindowIcon(QIcon(QStringLiteral(":/window/zq-icon-96.png")));
-    window.resize(1280, 820);
-    window.show();
-    ShotRegistry::settle();
-
     bool ok = true;
-    for (const ShotRegistry::Entry& shot : ShotRegistry::all()) {
-        QWidget* target = shot.prepare(window);
+    // The default window and a small one: every page must fit both. Dialogs of their own are shot once.
+    const std::vector<std::pair<QSize, QString>> sizes = {{QSize(1200, 800), QString()},
+                                                          {QSize(1024, 700), QStringLiteral("-1024")}};
+    for (const auto& [size, suffix] : sizes) {
+        window.resize(size);
+        window.show();
         ShotRegistry::settle();
-        const QString name = (realWindow ? QStringLiteral("window-") : QString()) + shot.name + QStringLiteral(".png");
-        if (!grab(window, target, realWindow).save(out.filePath(name))) {
-            std::fprintf(stderr, "could not write %s\n", qPrintable(out.filePath(name)));
-            ok = false;
+        for (const ShotRegistry::Entry& shot : ShotRegistry::all()) {
+            QWidget* target = shot.prepare(window);
+            ShotRegistry::settle();
+            const bool ownWindow = target && target->window() != &window;
+            const QString name = (realWindow ? QStringLiteral("window-") : QString()) + shot.name + suffix
+                                 + QStringLiteral(".png");
+            if ((suffix.isEmpty() || !ownWindow) && !grab(window, target, realWindow).save(out.filePath(name))) {
+                std::fprintf(stderr, "could not write %s\n", qPrintable(out.filePath(name)));
+                ok = false;
+            }
+            if (ownWindow)
+                target->window()->close();
         }
-        if (target && target->window() != &window)
-            target->window()->close();
     }
     return ok ? 0 : 1;
 }
