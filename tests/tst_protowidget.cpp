@@ -13,6 +13,7 @@
 
 #include <QUndoStack>
 #include <QWheelEvent>
+#include "FramedPage.h"
 #include "ScriptedAnswerer.h"
 
 #include <QCheckBox>
@@ -145,7 +146,7 @@ class TestProtoWidget : public QObject
     {
         ScriptedAnswerer answers;
         answers.buttons << QMessageBox::Yes;
-        QTest::mouseClick(child<QPushButton>(page, "buttonSave"), Qt::LeftButton);
+        page.save();
     }
 
     static bool openProto(ProtoWidget& page, const QString& path)
@@ -202,25 +203,26 @@ private slots:
 
     void fillingDoesNotEdit()
     {
-        ProtoWidget page;
-        page.show();
-        QVERIFY(!child<QPushButton>(page, "buttonSave")->isEnabled());
-        QVERIFY(!child<QPushButton>(page, "buttonSaveAs")->isEnabled());
+        FramedPage<ProtoWidget> framed;
+        ProtoWidget& page = framed.page;
+        framed.frame.show();
+        QVERIFY(!framed.saveButton()->isEnabled());
+        QVERIFY(!framed.saveAsButton()->isEnabled());
         QCOMPARE(child<QLabel>(page, "labelIndex")->text(), QStringLiteral("No item"));
 
         QVERIFY(openProto(page, weaponFile()));
         QVERIFY(!modified(page));
         QCOMPARE(child<QLabel>(page, "labelIndex")->text(), QStringLiteral("4027"));
         QCOMPARE(child<QLabel>(page, "labelItemType")->text(), QStringLiteral("Weapon"));
-        QVERIFY(!child<QPushButton>(page, "buttonSave")->isEnabled());
-        QVERIFY(child<QPushButton>(page, "buttonSaveAs")->isEnabled());
+        QVERIFY(!framed.saveButton()->isEnabled());
+        QVERIFY(framed.saveAsButton()->isEnabled());
         QCOMPARE(child<QSpinBox>(page, "movableHitPointsSpin")->value(), 150);
         QCOMPARE(child<QComboBox>(page, "movableMaterialCombo")->currentText(), QStringLiteral("Metal"));
         QCOMPARE(child<QComboBox>(page, "weaponCriticalMiss")->currentText(), QStringLiteral("Gun"));
 
         child<QSpinBox>(page, "weaponToHit")->setValue(6);
         QVERIFY(modified(page));
-        QVERIFY(child<QPushButton>(page, "buttonSave")->isEnabled());
+        QVERIFY(framed.saveButton()->isEnabled());
         // A new file starts clean again.
         openProto(page, weaponFile());
         QVERIFY(!modified(page));
@@ -237,7 +239,7 @@ private slots:
                  qPrintable(answers.last(QStringLiteral("message"))->text));
         QVERIFY(!page.document());
         QCOMPARE(child<QLabel>(page, "labelItemType")->text(), QStringLiteral("No item"));
-        QVERIFY(!child<QPushButton>(page, "buttonSaveAs")->isEnabled());
+        QVERIFY(!page.document());
 
         // A prototype cut short is refused too, with the byte where it ends, and the page keeps its file.
         QVERIFY(openProto(page, weaponFile()));
@@ -316,7 +318,7 @@ private slots:
         openProto(page, original);
         ScriptedAnswerer answers;
         answers.fileNames << dir.filePath(QStringLiteral("copy.pro"));
-        QTest::mouseClick(child<QPushButton>(page, "buttonSaveAs"), Qt::LeftButton);
+        page.saveAs();
         QCOMPARE(answers.last(QStringLiteral("save"))->title, QStringLiteral("Save As"));
         QCOMPARE(FormatChecks::readFile(dir.filePath(QStringLiteral("copy.pro"))), FormatChecks::readFile(original));
         QCOMPARE(page.document()->path(), dir.filePath(QStringLiteral("copy.pro"))); // the page goes on with the copy
@@ -535,7 +537,7 @@ private slots:
         const QStringList before = QDir(dir.path()).entryList(QDir::Files);
         const QByteArray original = FormatChecks::readFile(dir.filePath(QStringLiteral("weapon.pro")));
         ScriptedAnswerer answers; // no file name queued: the chooser is cancelled
-        QTest::mouseClick(child<QPushButton>(page, "buttonSaveAs"), Qt::LeftButton);
+        page.saveAs();
         QCOMPARE(answers.count(QStringLiteral("save")), 1);
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), before);
         QCOMPARE(FormatChecks::readFile(dir.filePath(QStringLiteral("weapon.pro"))), original);
@@ -548,7 +550,7 @@ private slots:
         QDir(dir.path()).mkpath(QStringLiteral("taken.pro")); // a folder where the file should go
         ScriptedAnswerer answers;
         answers.fileNames << dir.filePath(QStringLiteral("taken.pro"));
-        QTest::mouseClick(child<QPushButton>(page, "buttonSaveAs"), Qt::LeftButton);
+        page.saveAs();
         QCOMPARE(answers.count(QStringLiteral("message")), 1);
         QCOMPARE(answers.last(QStringLiteral("message"))->title, QStringLiteral("Save failed"));
         QVERIFY(QFileInfo(dir.filePath(QStringLiteral("taken.pro"))).isDir());

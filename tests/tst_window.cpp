@@ -369,6 +369,42 @@ private slots:
         QVERIFY(!save->isEnabled());
     }
 
+    // A modder can hover over any control of any page to learn what it does.
+    void everyControlExplainsItself()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.resize(1200, 800);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.openFiles({game.path(QStringLiteral("/data/scr/00001gate_guard.scr")), game.path(ITEMS),
+                          game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg")),
+                          game.path(QStringLiteral("/data/art/sample_beetle.art")),
+                          game.path(QStringLiteral("/data/proto/weapon_sword.pro"))});
+        auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+        QStringList silent;
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            QTest::qWait(20);
+            for (QWidget* control : tabs->widget(tab)->findChildren<QWidget*>()) {
+                const bool asked = qobject_cast<QAbstractButton*>(control) || qobject_cast<QComboBox*>(control)
+                                   || qobject_cast<QAbstractSpinBox*>(control) || qobject_cast<QLineEdit*>(control);
+                // A spin box's own line edit, a combo box's and a table's corner are parts of their owner.
+                const bool part = qobject_cast<QAbstractSpinBox*>(control->parentWidget())
+                                  || qobject_cast<QComboBox*>(control->parentWidget())
+                                  || qobject_cast<QAbstractItemView*>(control->parentWidget());
+                if (asked && !part && control->isVisible() && control->toolTip().isEmpty())
+                    silent.append(QStringLiteral("%1: %2 %3").arg(tabs->tabText(tab), control->metaObject()->className(),
+                                                                control->objectName()));
+            }
+        }
+        silent.removeDuplicates();
+        for (const QString& control : silent)
+            qInfo("no tool tip: %s", qPrintable(control));
+        QVERIFY2(silent.isEmpty(), qPrintable(QStringLiteral("%1 without a tool tip: ").arg(silent.size())
+                                              + silent.join(QStringLiteral("; "))));
+    }
+
     void pagesFitTheWindow_data()
     {
         QTest::addColumn<QSize>("size");

@@ -253,6 +253,7 @@ void MainWindow::addFilterBoxes()
         box->setObjectName(QStringLiteral("fileFilter%1").arg(i));
         box->setPlaceholderText(tr("Filter files (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
         box->setClearButtonEnabled(true);
+        box->setToolTip(tr("Show only the files whose name contains this text"));
         box->setMaximumWidth(view->maximumWidth());
         QLayout* layout = view->parentWidget()->layout();
         QWidget* column = new QWidget(this);

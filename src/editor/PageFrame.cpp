@@ -3,6 +3,7 @@
 #include "Document.h"
 #include "FormatRegistry.h"
 #include "Page.h"
+#include "ToolTipFiller.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -60,9 +61,11 @@ PageFrame::PageFrame(Page* page, const QString& hint, QWidget* parent)
     connect(page, &Page::documentReplaced, this, [this](Document* document) {
         watch(document);
         refresh();
+        ToolTipFiller::fill(shown);
     });
     watch(page->document());
     refresh();
+    ToolTipFiller::fill(page);
 }
 
 void PageFrame::insertAbovePage(QWidget* widget)
@@ -77,6 +80,8 @@ void PageFrame::watch(Document* document)
     connect(document, &Document::modifiedChanged, this, &PageFrame::refresh);
     connect(document, &Document::pathChanged, this, &PageFrame::refresh);
     connect(document, &Document::saved, this, &PageFrame::refresh);
+    // Forms grow rows as the document changes (a new test, another prototype type).
+    connect(document, &Document::changed, this, [this] { ToolTipFiller::fill(shown); });
 }
 
 void PageFrame::refresh()

@@ -42,6 +42,7 @@ GameWidget::GameWidget(QWidget* parent)
     filter->setObjectName(QStringLiteral("gameFilter"));
     filter->setPlaceholderText(tr("Filter game files"));
     filter->setClearButtonEnabled(true);
+    filter->setToolTip(tr("Show only the files whose path contains this text"));
     tree->setObjectName(QStringLiteral("gameTree"));
     tree->setHeaderLabels({tr("Name"), tr("Size"), tr("Source")});
     tree->setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -32,6 +32,8 @@ void ProtoScriptsWidget::addRows()
         button->setObjectName(QStringLiteral("scriptButton%1").arg(point));
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         button->setEnabled(false);
+        button->setToolTip(tr("The script this event runs and its counters; click to change them"));
+        check->setToolTip(tr("Whether the object runs a script when this event happens"));
         QFormLayout* column = point < ROWS_PER_COLUMN ? ui->firstColumn : ui->secondColumn;
         column->addRow(check, button);
         checks[point] = check;

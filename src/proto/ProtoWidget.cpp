@@ -83,7 +83,6 @@ ProtoWidget::ProtoWidget(QWidget* parent)
     connectEdits();
     WheelGuard::install(this);
     updateData();
-    updateControls();
 }
 
 ProtoWidget::~ProtoWidget() = default;
@@ -123,10 +122,8 @@ void ProtoWidget::showDocument()
     if (ProtoDocument* shown = protoDocument()) {
         // An undo or redo puts back a whole prototype: the form is filled again from it.
         connect(shown, &Document::changed, this, &ProtoWidget::updateData);
-        connect(shown, &Document::modifiedChanged, this, &ProtoWidget::updateControls);
     }
     updateData();
-    updateControls();
 }
 
 void ProtoWidget::bindControls()
@@ -298,7 +295,6 @@ void ProtoWidget::edited()
     const QString field = fieldWords(control);
     protoDocument()->recordEdit(field.isEmpty() ? tr("Edit prototype") : tr("Edit %1").arg(field), 3001,
                                 int(qHash(control ? control->objectName() : QString())));
-    updateControls();
 }
 
 void ProtoWidget::onDamagesEdited()
@@ -311,22 +307,6 @@ void ProtoWidget::onScriptsEdited()
     edited();
 }
 
-void ProtoWidget::updateControls()
-{
-    const bool loaded = protoDocument() != nullptr;
-    ui->buttonSave->setEnabled(loaded && protoDocument()->isModified());
-    ui->buttonSaveAs->setEnabled(loaded);
-}
-
-void ProtoWidget::on_buttonSave_clicked()
-{
-    save();
-}
-
-void ProtoWidget::on_buttonSaveAs_clicked()
-{
-    saveAs();
-}
 
 void ProtoWidget::updateData()
 {

@@ -40,10 +40,6 @@ public slots:
     void onDamagesEdited();
     void onScriptsEdited();
 
-private slots:
-    void on_buttonSave_clicked();
-    void on_buttonSaveAs_clicked();
-
 private:
     using ObjectData = arcanum::Proto::ObjectData;
     using MovableData = arcanum::Proto::MovableData;
@@ -78,7 +74,6 @@ private:
     void collectObject(const ObjectControls& controls, ObjectData& object);
     void collectMovable(MovableData& movable);
     void collectWeapon(WeaponData& weapon);
-    void updateControls();
     arcanum::Proto& model();
 
     std::vector<protofields::FlagField<std::uint32_t>> objectFlags(const ObjectControls& controls,
