@@ -3,7 +3,8 @@
 
 PACKAGES := qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-image-formats-plugins \
             libgl-dev ninja-build cmake g++ fonts-dejavu-core xvfb xauth \
-            pkg-config libdeflate-dev zlib1g-dev xdotool
+            pkg-config libdeflate-dev zlib1g-dev xdotool \
+            qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
@@ -22,6 +23,7 @@ run: release
 test: deps fuzz-deps
 	cmake -S . -B $(TEST_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug \
 	      -DLOREKA_SANITIZE=ON -DLOREKA_WERROR=ON
+	cmake --build $(TEST_DIR) --target update_translations
 	cmake --build $(TEST_DIR) -j $(JOBS)
 	cd $(TEST_DIR) && QT_QPA_PLATFORM=offscreen \
 	    ASAN_OPTIONS=detect_leaks=1 \
@@ -32,6 +34,7 @@ test: deps fuzz-deps
 
 release: deps
 	cmake -S . -B $(RELEASE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLOREKA_BUILD_TESTS=OFF
+	cmake --build $(RELEASE_DIR) --target update_translations
 	cmake --build $(RELEASE_DIR) -j $(JOBS)
 
 # One PNG per tab of the main window, grabbed offscreen, plus a real-window shot under Xvfb.

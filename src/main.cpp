@@ -1,14 +1,17 @@
 #include "MainWindow.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <QLocale>
 #include <QTimer>
 
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("qtLoreka"));
+    Translations::install(QLocale::system());
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate("main", "Editor for the data files of Arcanum"));
     parser.addHelpOption();

@@ -14,11 +14,6 @@
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ToolTipFiller", text);
-}
-
 QString plain(QString text)
 {
     text.remove(QLatin1Char('&'));
@@ -89,7 +84,7 @@ QString groupOf(const QWidget* control)
 
 QString withGroup(const QString& tip, const QString& group)
 {
-    return group.isEmpty() ? tip : tr("%1 (%2)").arg(tip, group);
+    return group.isEmpty() ? tip : QCoreApplication::translate("ToolTipFiller", "%1 (%2)").arg(tip, group);
 }
 
 QString explain(QWidget* control)
@@ -98,16 +93,16 @@ QString explain(QWidget* control)
     const QString group = groupOf(control);
     if (auto* check = qobject_cast<QCheckBox*>(control)) {
         const QString name = plain(check->text()).isEmpty() ? label : plain(check->text());
-        return name.isEmpty() ? QString() : withGroup(tr("%1: checked sets it, unchecked clears it").arg(name), group);
+        return name.isEmpty() ? QString() : withGroup(QCoreApplication::translate("ToolTipFiller", "%1: checked sets it, unchecked clears it").arg(name), group);
     }
     if (label.isEmpty())
         return QString();
     if (auto* spin = qobject_cast<QSpinBox*>(control))
-        return withGroup(tr("%1: a whole number from %2 to %3").arg(label).arg(spin->minimum()).arg(spin->maximum()), group);
+        return withGroup(QCoreApplication::translate("ToolTipFiller", "%1: a whole number from %2 to %3").arg(label).arg(spin->minimum()).arg(spin->maximum()), group);
     if (auto* spin = qobject_cast<QDoubleSpinBox*>(control))
-        return withGroup(tr("%1: a number from %2 to %3").arg(label).arg(spin->minimum()).arg(spin->maximum()), group);
+        return withGroup(QCoreApplication::translate("ToolTipFiller", "%1: a number from %2 to %3").arg(label).arg(spin->minimum()).arg(spin->maximum()), group);
     if (qobject_cast<QComboBox*>(control))
-        return withGroup(tr("%1: one of the values the game knows (type to jump to one)").arg(label), group);
+        return withGroup(QCoreApplication::translate("ToolTipFiller", "%1: one of the values the game knows (type to jump to one)").arg(label), group);
     if (qobject_cast<QLineEdit*>(control))
         return withGroup(label, group);
     return QString();
