@@ -1,4 +1,5 @@
 // Runs the built `loreka` program on copies of the sample game.
+#include "DatWriter.h"
 #include "FormatChecks.h"
 
 #include <QDir>
@@ -95,6 +96,14 @@ const QHash<QString, Plant>& plants()
         {"response to nowhere",
          [](const QString& g) {
              FormatChecks::writeFile(g + "/data/dlg/bad.dlg", "{1}{Hi}{}{}{}{}{}\r\n\t{2}{Yes}{}{1}{}{99}{}\r\n");
+         }},
+        // A mod archive beside the game's: a prototype with a broken signature inside it.
+        {"archived wrong signature",
+         [](const QString& g) {
+             QByteArray proto = FormatChecks::readFile(g + "/data/proto/wall_stone.pro");
+             proto[0] = 1;
+             QString error;
+             arcanum::DatWriter::write(g + "/arcanum2.dat", {{QStringLiteral("proto\\wall_copy.pro"), proto}}, error);
          }},
         {"duplicate index",
          [](const QString& g) {
@@ -207,6 +216,9 @@ private slots:
                                            << "data/mes/bad.mes:2: error: '\\{' at index 3 has no matching '\\}'";
         QTest::newRow("response to nowhere") << "response to nowhere"
                                              << "data/dlg/bad.dlg:2: error: PC line 2: response line 99 does not exist";
+        QTest::newRow("archived wrong signature")
+            << "archived wrong signature"
+            << "arcanum2.dat/proto/wall_copy.pro:offset 0x0: error: wrong signature 1, expected 119";
         QTest::newRow("duplicate index") << "duplicate index"
                                          << "data/dlg/bad.dlg:3: error: line index 2 is used again \\(first on line 2\\)";
     }

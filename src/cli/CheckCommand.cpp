@@ -8,7 +8,10 @@
 
 #include "ArtRunLength.h"
 #include "Artfile.h"
+#include "DatArchive.h"
 #include "DialogueFileNew.h"
+#include "FormatRegistry.h"
+#include "GameView.h"
 #include "Mesfile.h"
 #include "Proto.h"
 #include "Script.h"
@@ -16,6 +19,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 #include <QSettings>
 
@@ -53,8 +57,45 @@ int CheckCommand::run(const QString& dir)
         report.progress(i + 1, int(files.size()), files.at(i));
         checkFile(files.at(i));
     }
+    checkArchives(base);
     report.summary();
     return report.exitCode();
+}
+
+// Every file of a kind we know inside the game's archives, named ARCHIVE/PATH; each is read out into a
+// scratch file of the same name, so the checks see exactly what they see of a loose file.
+void CheckCommand::checkArchives(const QString& base)
+{
+    GameView view;
+    view.build(base);
+    for (const QString& problem : view.problems())
+        report.ioError(base, problem);
+    QTemporaryDir scratch;
+    for (const GameView::Layer& layer : view.layers()) {
+        if (!layer.archive)
+            continue;
+        for (const DatArchive::Entry& entry : layer.archive->entries()) {
+            if (entry.isFolder() || !FormatRegistry::byPath(entry.path()) || entry.path().endsWith(QLatin1String(".dat"), Qt::CaseInsensitive))
+                continue;
+            const QString shown = layer.name + QLatin1Char('/') + entry.path();
+            QByteArray bytes;
+            QString error;
+            if (!DatArchive::unsafeName(entry.name).isEmpty() || !layer.archive->read(entry, bytes, error)) {
+                report.fileChecked();
+                report.ioError(shown, error.isEmpty() ? DatArchive::unsafeName(entry.name) : error);
+                continue;
+            }
+            const QString file = scratch.filePath(QFileInfo(entry.path()).fileName());
+            QFile out(file);
+            if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(bytes) != bytes.size()) {
+                report.ioError(shown, QStringLiteral("cannot be read out: %1").arg(out.errorString()));
+                continue;
+            }
+            out.close();
+            report.showAs(file, shown);
+            checkFile(file);
+        }
+    }
 }
 
 // ".lorekaignore" in DIR: one "path" or "path:line" a line; blank lines and "#" comments are skipped.

@@ -25,6 +25,7 @@ public:
 private:
     static QStringList ignoreList(const QString& base);
     void checkFile(const QString& path);
+    void checkArchives(const QString& base);
     void checkMes(const QString& path);
     void checkDialogue(const QString& path);
     void checkScript(const QString& path);

@@ -37,12 +37,15 @@ void Diagnostics::ignore(const QString& base, const QStringList& entries)
 
 bool Diagnostics::isIgnored(const QString& path, const QString& where) const
 {
-    const QString relative = QDir(QFileInfo(ignoreBase).absoluteFilePath()).relativeFilePath(QFileInfo(path).absoluteFilePath());
+    const QString relative = QFileInfo(path).isRelative() && !QFileInfo::exists(path)
+                                 ? path // a file inside an archive, named relative to the game already
+                                 : QDir(QFileInfo(ignoreBase).absoluteFilePath()).relativeFilePath(QFileInfo(path).absoluteFilePath());
     return ignoreEntries.contains(relative) || ignoreEntries.contains(relative + QLatin1Char(':') + where);
 }
 
-void Diagnostics::print(const QString& path, const QString& where, const QString& message)
+void Diagnostics::print(const QString& file, const QString& where, const QString& message)
 {
+    const QString path = shownNames.value(file, file);
     if (isIgnored(path, where)) {
         ++ignored;
         return;

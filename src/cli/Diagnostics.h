@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QTextStream>
@@ -24,6 +25,9 @@ public:
     // defects a mod knows about and keeps on purpose.
     void ignore(const QString& base, const QStringList& entries);
 
+    // Reports about path name it name instead (a file read out of an archive: "arcanum1.dat/mes/x.mes").
+    void showAs(const QString& path, const QString& name) { shownNames.insert(path, name); }
+
     void fileChecked() { ++files; }
     void progress(int done, int total, const QString& path);
     // "N files checked, M problems".
@@ -34,7 +38,7 @@ public:
     int exitCode() const;
 
 private:
-    void print(const QString& path, const QString& where, const QString& message);
+    void print(const QString& file, const QString& where, const QString& message);
     bool isIgnored(const QString& path, const QString& where) const;
     void clearProgress();
 
@@ -45,6 +49,7 @@ private:
     int files = 0;
     int problems = 0;
     int ignored = 0;
+    QHash<QString, QString> shownNames;
     QString ignoreBase;
     QStringList ignoreEntries;
     bool ioFailed = false;
