@@ -70,6 +70,7 @@ TokenEditorNum::TokenEditorNum(int numType, int value, QWidget* parent)
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     showType();
 
+    spin->setToolTip(tr("The number, or what it selects of the source on the left"));
     spin->setRange(Minimum, Maximum);
     spin->setFocusPolicy(Qt::StrongFocus);
     spin->setValue(value);

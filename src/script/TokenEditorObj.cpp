@@ -21,6 +21,7 @@ TokenEditorObj::TokenEditorObj(int objectType, QWidget* parent)
     setCurrentIndex(known ? objectType : Script::ObjectTypeCount);
     setMaxVisibleItems(Script::ObjectTypeCount + 1);
     setFocusPolicy(Qt::StrongFocus);
+    setToolTip(tr("The object the statement tests or acts on"));
 
     QPalette white = palette();
     white.setBrush(QPalette::All, QPalette::Button, QBrush(Qt::white));
