@@ -5,256 +5,280 @@
     <name>ArtDocument</name>
     <message>
         <source>%1 (at byte %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (на байте %2)</translation>
     </message>
     <message>
         <source>an art file needs at least one image</source>
-        <translation type="unfinished"></translation>
+        <translation>в файле графики нужно хотя бы одно изображение</translation>
     </message>
     <message>
         <source>image %1 frame %2</source>
-        <translation type="unfinished"></translation>
+        <translation>изображение %1, кадр %2</translation>
     </message>
     <message>
         <source>frames whose pixel data is far too short for their size are listed but not drawn (%1 of them): %2</source>
-        <translation type="unfinished"></translation>
+        <translation>кадры, у которых данных пикселей намного меньше, чем нужно для их размера, перечислены, но не нарисованы (их %1): %2</translation>
     </message>
 </context>
 <context>
     <name>ArtEditorWidget</name>
     <message>
         <source>Ctrl+wheel zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+колесо — масштаб</translation>
     </message>
     <message>
         <source>No frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет кадра</translation>
     </message>
     <message>
         <source>Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Кадр</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Слева</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Сверху</translation>
     </message>
     <message>
         <source>dX</source>
-        <translation type="unfinished"></translation>
+        <translation>dX</translation>
     </message>
     <message>
         <source>dY</source>
-        <translation type="unfinished"></translation>
+        <translation>dY</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Масштаб</translation>
     </message>
     <message>
         <source>Shown size only; the frame itself keeps its size (Ctrl+wheel over the picture zooms too)</source>
-        <translation type="unfinished"></translation>
+        <translation>Только размер показа; сам кадр свой размер сохраняет (Ctrl+колесо над рисунком тоже меняет масштаб)</translation>
     </message>
     <message>
         <source>×</source>
-        <translation type="unfinished"></translation>
+        <translation>×</translation>
     </message>
     <message>
         <source>Writes the frame as data/qtLoreka.export.BMP, .JPG, .PNG and .TIF in the game directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Записывает кадр как data/qtLoreka.export.BMP, .JPG, .PNG и .TIF в папке игры</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Экспорт</translation>
     </message>
     <message>
         <source>Copies the frame with its palette to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Копирует кадр с палитрой в буфер обмена</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать</translation>
     </message>
     <message>
         <source>Replaces the frame by the clipboard image (placement values stay)</source>
-        <translation type="unfinished"></translation>
+        <translation>Заменяет кадр изображением из буфера обмена (значения размещения сохраняются)</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Вставить</translation>
     </message>
     <message>
         <source>This frame cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Этот кадр нельзя показать.</translation>
     </message>
     <message>
         <source>%1 × %2 pixels, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 пикс., %3</translation>
     </message>
     <message>
         <source>run-length</source>
-        <translation type="unfinished"></translation>
+        <translation>RLE-сжатие</translation>
     </message>
     <message>
         <source>raw</source>
-        <translation type="unfinished"></translation>
+        <translation>без сжатия</translation>
     </message>
     <message>
         <source>Could not write %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось записать %1.</translation>
     </message>
     <message>
         <source>Exported as BMP, JPG, PNG and TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Экспортировано в BMP, JPG, PNG и TIFF.</translation>
     </message>
 </context>
 <context>
     <name>ArtHeaderWidget</name>
     <message>
         <source>Palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Палитры</translation>
     </message>
     <message>
         <source>Double-click to edit palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Дважды щёлкните, чтобы изменить палитру</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Изображения</translation>
     </message>
     <message>
         <source>Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Кадры</translation>
     </message>
     <message>
         <source>Palette %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Палитра %1</translation>
     </message>
     <message>
         <source>Image %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изображение %1</translation>
     </message>
     <message>
         <source>Frame %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Кадр %1</translation>
+    </message>
+    <message>
+        <source>Add a palette (a copy of the selected one)</source>
+        <translation>Добавить палитру (копию выбранной)</translation>
+    </message>
+    <message>
+        <source>Remove the selected palette</source>
+        <translation>Удалить выбранную палитру</translation>
+    </message>
+    <message>
+        <source>Add an image (a direction of the sprite)</source>
+        <translation>Добавить изображение (направление спрайта)</translation>
+    </message>
+    <message>
+        <source>Remove the selected image</source>
+        <translation>Удалить выбранное изображение</translation>
+    </message>
+    <message>
+        <source>Add a frame after the selected one, in every image</source>
+        <translation>Добавить кадр после выбранного во всех изображениях</translation>
+    </message>
+    <message>
+        <source>Remove the selected frame from every image</source>
+        <translation>Удалить выбранный кадр из всех изображений</translation>
     </message>
 </context>
 <context>
     <name>ArtWidget</name>
     <message>
         <source>No art file open: double-click one in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл графики не открыт: дважды щёлкните файл в списке.</translation>
     </message>
     <message>
         <source>Whether the file&apos;s header marks it as animated</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмечен ли файл в заголовке как анимированный</translation>
     </message>
     <message>
         <source>Animated</source>
-        <translation type="unfinished"></translation>
+        <translation>Анимирован</translation>
     </message>
     <message>
         <source>Write the art file in place</source>
-        <translation type="unfinished"></translation>
+        <translation>Записать файл графики на место</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Write the art file under a new name and go on with that file</source>
-        <translation type="unfinished"></translation>
+        <translation>Записать файл графики под новым именем и продолжить работу с ним</translation>
     </message>
     <message>
         <source>Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как...</translation>
     </message>
     <message>
         <source>Edit palette %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить палитру %1</translation>
     </message>
     <message>
         <source>Add or delete image</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить или удалить изображение</translation>
     </message>
     <message>
         <source>Add or delete frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить или удалить кадр</translation>
     </message>
     <message>
         <source>Edit frame %1 of image %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить кадр %1 изображения %2</translation>
     </message>
     <message>
         <source>Arcanum Art files (*.art);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы графики Arcanum (*.art);;Все файлы (*)</translation>
     </message>
 </context>
 <context>
     <name>ConversationGraph</name>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>конец</translation>
     </message>
     <message>
         <source>game code %1</source>
-        <translation type="unfinished"></translation>
+        <translation>код игры %1</translation>
     </message>
 </context>
 <context>
     <name>ConversationView</name>
     <message>
         <source>NPC line</source>
-        <translation type="unfinished"></translation>
+        <translation>Реплика NPC</translation>
     </message>
     <message>
         <source>PC response</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответ PC</translation>
     </message>
     <message>
         <source>end of conversation or game code</source>
-        <translation type="unfinished"></translation>
+        <translation>конец разговора или код игры</translation>
     </message>
     <message>
         <source>nothing leads here</source>
-        <translation type="unfinished"></translation>
+        <translation>сюда ничего не ведёт</translation>
     </message>
     <message>
         <source>leads to a missing line</source>
-        <translation type="unfinished"></translation>
+        <translation>ведёт к отсутствующей реплике</translation>
     </message>
     <message>
         <source>number used twice</source>
-        <translation type="unfinished"></translation>
+        <translation>номер использован дважды</translation>
     </message>
     <message>
         <source>line has problems</source>
-        <translation type="unfinished"></translation>
+        <translation>в реплике есть ошибки</translation>
     </message>
 </context>
 <context>
     <name>DamageBanner</name>
     <message>
         <source>%1 is damaged: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 повреждён: %2</translation>
     </message>
 </context>
 <context>
     <name>DialogAbout</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>О программе</translation>
     </message>
     <message>
         <source>&lt;!DOCTYPE HTML PUBLIC &quot;-//W3C//DTD HTML 4.0//EN&quot; &quot;http://www.w3.org/TR/REC-html40/strict.dtd&quot;&gt;
@@ -264,2125 +288,2165 @@
 &lt;p align=&quot;center&quot; style=&quot;font-size:14pt;&quot;&gt;A visual editor for&lt;/p&gt;
 &lt;p align=&quot;center&quot; style=&quot;font-size:14pt;&quot;&gt;Arcanum: of Steamworks and Magick Obscura&lt;/p&gt;
 &lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;!DOCTYPE HTML PUBLIC &quot;-//W3C//DTD HTML 4.0//EN&quot; &quot;http://www.w3.org/TR/REC-html40/strict.dtd&quot;&gt;
+&lt;html&gt;&lt;body style=&quot;font-family:&apos;DejaVu Sans&apos;;&quot;&gt;
+&lt;p align=&quot;center&quot; style=&quot;font-size:16pt; font-weight:600;&quot;&gt;qtLoreka&lt;/p&gt;
+&lt;p align=&quot;center&quot; style=&quot;font-size:12pt;&quot;&gt;Написано разработчиками qtLoreka&lt;/p&gt;
+&lt;p align=&quot;center&quot; style=&quot;font-size:14pt;&quot;&gt;Визуальный редактор для&lt;/p&gt;
+&lt;p align=&quot;center&quot; style=&quot;font-size:14pt;&quot;&gt;Arcanum: of Steamworks and Magick Obscura&lt;/p&gt;
+&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Version: </source>
-        <translation type="unfinished"></translation>
+        <translation>Версия: </translation>
     </message>
     <message>
         <source>&lt;version&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;версия&gt;</translation>
     </message>
 </context>
 <context>
     <name>DialogEditPalette</name>
     <message>
         <source>Edit palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить палитру</translation>
     </message>
     <message>
         <source>Click a colour to change it</source>
-        <translation type="unfinished"></translation>
+        <translation>Щёлкните цвет, чтобы изменить его</translation>
     </message>
     <message>
         <source>&lt;view&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;вид&gt;</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить</translation>
     </message>
     <message>
         <source>Ctrl+L</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+L</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать</translation>
     </message>
     <message>
         <source>Ctrl+C</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+C</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Вставить</translation>
     </message>
     <message>
         <source>Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+V</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Arcanum .art Palettes (*.aap)</source>
-        <translation type="unfinished"></translation>
+        <translation>Палитры Arcanum .art (*.aap)</translation>
     </message>
     <message>
         <source>Index %1: red %2, green %3, blue %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Индекс %1: красный %2, зелёный %3, синий %4</translation>
     </message>
     <message>
         <source>No frame to show</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет кадра для показа</translation>
     </message>
     <message>
         <source>Save Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить палитру</translation>
     </message>
     <message>
         <source>Load Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить палитру</translation>
     </message>
     <message>
         <source>Save failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранение не удалось</translation>
     </message>
     <message>
         <source>Could not save %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить %1: %2</translation>
     </message>
     <message>
         <source>Cannot open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся открыть файл</translation>
     </message>
     <message>
         <source>Could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть %1: %2</translation>
     </message>
 </context>
 <context>
     <name>DialogNewStatement</name>
     <message>
         <source>Statement</source>
-        <translation type="unfinished"></translation>
+        <translation>Оператор</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтр</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Условие</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Действие</translation>
     </message>
     <message>
         <source>Code %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Код %1</translation>
     </message>
 </context>
 <context>
     <name>DialogNumType</name>
     <message>
         <source>Number type</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип числа</translation>
     </message>
     <message>
         <source>Where the number comes from</source>
-        <translation type="unfinished"></translation>
+        <translation>Откуда берётся число</translation>
     </message>
 </context>
 <context>
     <name>DialogOptions</name>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры</translation>
     </message>
     <message>
         <source>Arcanum base directory:</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка игры Arcanum:</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Обзор</translation>
     </message>
     <message>
         <source>Script</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипт</translation>
     </message>
     <message>
         <source>Confirm overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Подтверждать перезапись</translation>
     </message>
     <message>
         <source>Confirm abandon</source>
-        <translation type="unfinished"></translation>
+        <translation>Подтверждать отказ от изменений</translation>
     </message>
     <message>
         <source>Allow export to Lua</source>
-        <translation type="unfinished"></translation>
+        <translation>Разрешить экспорт в Lua</translation>
     </message>
     <message>
         <source>Art</source>
-        <translation type="unfinished"></translation>
+        <translation>Графика</translation>
     </message>
     <message>
         <source>Allow export to .bin</source>
-        <translation type="unfinished"></translation>
+        <translation>Разрешить экспорт в .bin</translation>
     </message>
     <message>
         <source>Mes</source>
-        <translation type="unfinished"></translation>
+        <translation>Сообщения</translation>
     </message>
     <message>
         <source>Proto</source>
-        <translation type="unfinished"></translation>
+        <translation>Прототипы</translation>
     </message>
     <message>
         <source>Choose Arcanum base directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите папку игры Arcanum</translation>
     </message>
 </context>
 <context>
     <name>DialogProtoScript</name>
     <message>
         <source>Script</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипт</translation>
     </message>
     <message>
         <source>Script index</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер скрипта</translation>
     </message>
     <message>
         <source>Counter0</source>
-        <translation type="unfinished"></translation>
+        <translation>Счётчик 0</translation>
     </message>
     <message>
         <source>Counter1</source>
-        <translation type="unfinished"></translation>
+        <translation>Счётчик 1</translation>
     </message>
     <message>
         <source>Counter2</source>
-        <translation type="unfinished"></translation>
+        <translation>Счётчик 2</translation>
     </message>
     <message>
         <source>Counter3</source>
-        <translation type="unfinished"></translation>
+        <translation>Счётчик 3</translation>
     </message>
     <message>
         <source>Flag bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Биты флагов</translation>
     </message>
 </context>
 <context>
     <name>DialogueDocument</name>
     <message>
         <source>Saving in %1 would change %2 line(s) of the file that do not read cleanly in it (first: line %3).</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранение в %1 изменит строки файла, которые в ней не читаются без потерь: %2 (первая: строка %3).</translation>
     </message>
     <message>
         <source>line %1 (file line %2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>реплика %1 (строка файла %2): %3</translation>
     </message>
     <message>
         <source>%1 line(s) have problems and are kept as read until edited: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Строк с ошибками, сохраняемых как прочитаны, пока их не изменят: %1: %2</translation>
     </message>
     <message>
         <source>; and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>; и ещё %1</translation>
     </message>
     <message>
         <source>the file could not be read as dialogue lines from file line %1 on; that part is not shown but is written back unchanged after the lines</source>
-        <translation type="unfinished"></translation>
+        <translation>начиная со строки файла %1 файл не читается как реплики диалога; эта часть не показана, но записывается без изменений после реплик</translation>
     </message>
 </context>
 <context>
     <name>DialogueEditWidget</name>
     <message>
         <source>Current file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Текущий файл:</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет</translation>
     </message>
     <message>
         <source>(unsaved changes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(несохранённые изменения)</translation>
     </message>
     <message>
         <source>Conversation graph</source>
-        <translation type="unfinished"></translation>
+        <translation>Граф разговора</translation>
     </message>
     <message>
         <source>Shows the whole conversation as a graph: where each line leads, and the lines nothing leads to, responses leading nowhere, duplicate numbers and lines with problems in colour. Click a box to open its line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывает весь разговор в виде графа: куда ведёт каждая реплика; реплики, к которым ничего не ведёт, ответы в никуда, повторяющиеся номера и реплики с ошибками выделены цветом. Щёлкните блок, чтобы открыть его реплику.</translation>
     </message>
     <message>
         <source>Open file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть файл...</translation>
     </message>
     <message>
         <source>Opens a dialogue file (.dlg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Открывает файл диалога (.dlg)</translation>
     </message>
     <message>
         <source>Save as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как...</translation>
     </message>
     <message>
         <source>Writes the dialogue to a file, in index order with Windows line ends, and opens that file</source>
-        <translation type="unfinished"></translation>
+        <translation>Записывает диалог в файл по порядку номеров с концами строк Windows и открывает этот файл</translation>
     </message>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Сортировать по</translation>
     </message>
     <message>
         <source>NPC lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Реплики NPC</translation>
     </message>
     <message>
         <source>Shows the NPC lines, each with the PC responses that follow it</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывает реплики NPC, каждую с последующими ответами PC</translation>
     </message>
     <message>
         <source>PC lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Реплики PC</translation>
     </message>
     <message>
         <source>Shows the PC lines with the line each one leads to</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывает реплики PC и реплику, к которой ведёт каждая</translation>
     </message>
     <message>
         <source>Double-click a line to edit it</source>
-        <translation type="unfinished"></translation>
+        <translation>Дважды щёлкните строку, чтобы изменить её</translation>
     </message>
     <message>
         <source>Response lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Строки ответа</translation>
     </message>
     <message>
         <source>Response</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответ</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Строка</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст</translation>
     </message>
     <message>
         <source>Last Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Последняя выбранная</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Вперёд</translation>
     </message>
     <message>
         <source>Double-click a line in a tree to edit it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Дважды щёлкните реплику в дереве, чтобы изменить её здесь.</translation>
     </message>
     <message>
         <source>Arcanum Dialogue files (*.dlg);;All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы диалогов Arcanum (*.dlg);;Все файлы (*.*)</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Увеличить</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Уменьшить</translation>
     </message>
     <message>
         <source>Fit to window</source>
-        <translation type="unfinished"></translation>
+        <translation>По размеру окна</translation>
     </message>
     <message>
         <source>Conversation: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Разговор: %1</translation>
     </message>
     <message>
         <source>PC response line:</source>
-        <translation type="unfinished"></translation>
+        <translation>Строка ответа PC:</translation>
     </message>
     <message>
         <source>Edit PC line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить реплику PC %1</translation>
     </message>
     <message>
         <source>Edit NPC line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить реплику NPC %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;NPC line %1&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Реплика NPC %1&lt;/b&gt;</translation>
     </message>
     <message>
         <source> — goes on with line %1</source>
-        <translation type="unfinished"></translation>
+        <translation> — продолжается репликой %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;PC line %1&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Реплика PC %1&lt;/b&gt;</translation>
     </message>
     <message>
         <source> — answered by NPC line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation> — ответ: реплика NPC %1: %2</translation>
     </message>
     <message>
         <source> — response line %1 is no NPC line of this file</source>
-        <translation type="unfinished"></translation>
+        <translation> — строка ответа %1 не является репликой NPC этого файла</translation>
     </message>
     <message>
         <source>This line has problems:</source>
-        <translation type="unfinished"></translation>
+        <translation>В этой реплике есть ошибки:</translation>
     </message>
     <message>
         <source>You changed it, so it is saved from the form&apos;s fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вы её изменили, поэтому она сохраняется из полей формы.</translation>
     </message>
     <message>
         <source>Until you change it, it is saved exactly as read:</source>
-        <translation type="unfinished"></translation>
+        <translation>Пока вы её не измените, она сохраняется в точности как прочитана:</translation>
     </message>
     <message>
         <source>Part of this file could not be read as dialogue lines, from &quot;%1&quot; on. It is not shown here, but saving writes it back unchanged after the lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Часть этого файла, начиная с «%1», не читается как реплики диалога. Здесь она не показана, но при сохранении записывается без изменений после реплик.</translation>
+    </message>
+    <message>
+        <source>Go back to the line opened before this one</source>
+        <translation>Вернуться к реплике, открытой перед этой</translation>
+    </message>
+    <message>
+        <source>Go forward again after going back</source>
+        <translation>Снова перейти вперёд после возврата</translation>
     </message>
 </context>
 <context>
     <name>DialogueFile</name>
     <message>
         <source>Line doesn&apos;t contain 6 items</source>
-        <translation type="unfinished"></translation>
+        <translation>В строке не 6 полей</translation>
     </message>
     <message>
         <source>Line number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер строки %1</translation>
     </message>
     <message>
         <source>Tooltip text: TODO</source>
-        <translation type="unfinished"></translation>
+        <translation>Подсказка: пока нет</translation>
     </message>
     <message>
         <source>all genders</source>
-        <translation type="unfinished"></translation>
+        <translation>любой пол</translation>
     </message>
     <message>
         <source>male only</source>
-        <translation type="unfinished"></translation>
+        <translation>только мужчины</translation>
     </message>
     <message>
         <source>female only</source>
-        <translation type="unfinished"></translation>
+        <translation>только женщины</translation>
     </message>
     <message>
         <source>Invalid value: only 0, 1 or empty entry allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверное значение: допустимы только 0, 1 или пустое поле</translation>
     </message>
     <message>
         <source>Maximum: </source>
-        <translation type="unfinished"></translation>
+        <translation>Максимум: </translation>
     </message>
     <message>
         <source>Minimum: </source>
-        <translation type="unfinished"></translation>
+        <translation>Минимум: </translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Комментарий</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст</translation>
     </message>
     <message>
         <source>Gender or female line</source>
-        <translation type="unfinished"></translation>
+        <translation>Пол или реплика для женщины</translation>
     </message>
     <message>
         <source>Int. Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка интеллекта</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Условие</translation>
     </message>
     <message>
         <source>Response</source>
-        <translation type="unfinished"></translation>
+        <translation>Ответ</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Результат</translation>
     </message>
     <message>
         <source>Invalid col. id</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный номер столбца</translation>
     </message>
 </context>
 <context>
     <name>DialogueTestsWidget</name>
     <message>
         <source>Opcode of this test or result</source>
-        <translation type="unfinished"></translation>
+        <translation>Код операции этой проверки или результата</translation>
     </message>
     <message>
         <source>Remove this row</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить эту строку</translation>
     </message>
     <message>
         <source>Add a row below this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить строку ниже этой</translation>
     </message>
     <message>
         <source>+</source>
-        <translation type="unfinished"></translation>
+        <translation>+</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: %2, without arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: %2, без аргументов</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: %2; arguments: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: %2; аргументы: %3</translation>
     </message>
 </context>
 <context>
     <name>DlgNpcLineEditWidget</name>
     <message>
         <source>Line number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер строки</translation>
     </message>
     <message>
         <source>Is generated dialogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Генерируемый диалог</translation>
     </message>
     <message>
         <source>Shows the female variant and the response line of this line. It is ticked for a line that has either.</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывает женский вариант и строку ответа этой реплики. Отмечено, если есть хотя бы одно из них.</translation>
     </message>
     <message>
         <source>Reset data</source>
-        <translation type="unfinished"></translation>
+        <translation>Сбросить данные</translation>
     </message>
     <message>
         <source>NOT implemented yet :(</source>
-        <translation type="unfinished"></translation>
+        <translation>Пока НЕ реализовано :(</translation>
     </message>
     <message>
         <source>Male line</source>
-        <translation type="unfinished"></translation>
+        <translation>Реплика для мужчины</translation>
     </message>
     <message>
         <source>What the character says (to every player without a female line)</source>
-        <translation type="unfinished"></translation>
+        <translation>Что говорит персонаж (любому игроку, если нет реплики для женщины)</translation>
     </message>
     <message>
         <source>different female line</source>
-        <translation type="unfinished"></translation>
+        <translation>другая реплика для женщины</translation>
     </message>
     <message>
         <source>Shows the text the character says to a female player instead</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывает текст, который персонаж вместо этого говорит игроку-женщине</translation>
     </message>
     <message>
         <source>Female line</source>
-        <translation type="unfinished"></translation>
+        <translation>Реплика для женщины</translation>
     </message>
     <message>
         <source>What the character says to a female player</source>
-        <translation type="unfinished"></translation>
+        <translation>Что персонаж говорит игроку-женщине</translation>
     </message>
     <message>
         <source>Has Goto</source>
-        <translation type="unfinished"></translation>
+        <translation>Есть переход</translation>
     </message>
     <message>
         <source>The dialogue goes on with another line right after this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Диалог сразу после этой реплики продолжается другой</translation>
     </message>
     <message>
         <source>Response line</source>
-        <translation type="unfinished"></translation>
+        <translation>Строка ответа</translation>
     </message>
     <message>
         <source>The line the dialogue goes on with</source>
-        <translation type="unfinished"></translation>
+        <translation>Реплика, которой продолжается диалог</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Результаты</translation>
     </message>
     <message>
         <source>Add Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить результаты</translation>
     </message>
     <message>
         <source>Adds a result at the top of the list; results happen when the character says this line</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавляет результат в начало списка; результаты наступают, когда персонаж произносит эту реплику</translation>
     </message>
 </context>
 <context>
     <name>DlgPcLineEditWidget</name>
     <message>
         <source>Line number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер строки</translation>
     </message>
     <message>
         <source>Changing of line number not yet implemented</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменение номера строки пока не реализовано</translation>
     </message>
     <message>
         <source>Set original data</source>
-        <translation type="unfinished"></translation>
+        <translation>Вернуть исходные данные</translation>
     </message>
     <message>
         <source>Shows the line as it is stored again, dropping what you changed in this form since it was last applied</source>
-        <translation type="unfinished"></translation>
+        <translation>Снова показывает реплику в сохранённом виде, отбрасывая изменения в этой форме с последнего применения</translation>
     </message>
     <message>
         <source>Spoken text</source>
-        <translation type="unfinished"></translation>
+        <translation>Произносимый текст</translation>
     </message>
     <message>
         <source>What the player says</source>
-        <translation type="unfinished"></translation>
+        <translation>Что говорит игрок</translation>
     </message>
     <message>
         <source>Whether the player needs at least or at most this intelligence (a maximum is written as a negative number)</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужен ли игроку интеллект не ниже или не выше этого (максимум записывается отрицательным числом)</translation>
     </message>
     <message>
         <source>Minimum intelligence</source>
-        <translation type="unfinished"></translation>
+        <translation>Минимальный интеллект</translation>
     </message>
     <message>
         <source>Maximum intelligence</source>
-        <translation type="unfinished"></translation>
+        <translation>Максимальный интеллект</translation>
     </message>
     <message>
         <source>Response line</source>
-        <translation type="unfinished"></translation>
+        <translation>Строка ответа</translation>
     </message>
     <message>
         <source>The NPC line that answers this response (0 usually ends the dialogue)</source>
-        <translation type="unfinished"></translation>
+        <translation>Реплика NPC, отвечающая на этот ответ (0 обычно завершает диалог)</translation>
     </message>
     <message>
         <source>Gender</source>
-        <translation type="unfinished"></translation>
+        <translation>Пол</translation>
     </message>
     <message>
         <source>Which player is offered this response</source>
-        <translation type="unfinished"></translation>
+        <translation>Какому игроку предлагается этот ответ</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Оба</translation>
     </message>
     <message>
         <source>Female</source>
-        <translation type="unfinished"></translation>
+        <translation>Женский</translation>
     </message>
     <message>
         <source>Male</source>
-        <translation type="unfinished"></translation>
+        <translation>Мужской</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверки</translation>
     </message>
     <message>
         <source>Add Requirements</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить условия</translation>
     </message>
     <message>
         <source>Adds a test at the top of the list; every test must hold for the response to be offered</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавляет проверку в начало списка; ответ предлагается, только если выполнены все проверки</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Результаты</translation>
     </message>
     <message>
         <source>Add Consequences</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить последствия</translation>
     </message>
     <message>
         <source>Adds a result at the top of the list; results happen when the player chooses this response</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавляет результат в начало списка; результаты наступают, когда игрок выбирает этот ответ</translation>
     </message>
 </context>
 <context>
     <name>Document</name>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>без имени</translation>
     </message>
     <message>
         <source>the file could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>файл не удалось записать</translation>
     </message>
 </context>
 <context>
     <name>GameListing</name>
     <message>
         <source>In %1; a save writes a loose copy that overrides it</source>
-        <translation type="unfinished"></translation>
+        <translation>В %1; сохранение запишет отдельную копию, которая его заменит</translation>
     </message>
     <message>
         <source>Loose file in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Отдельный файл в %1</translation>
     </message>
 </context>
 <context>
     <name>GameWidget</name>
     <message>
         <source>Filter game files</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтр файлов игры</translation>
     </message>
     <message>
         <source>Show only the files whose path contains this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать только файлы, путь которых содержит этот текст</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Источник</translation>
     </message>
     <message>
         <source>The module whose archives and folder below modules/ are layered over the game&apos;s data</source>
-        <translation type="unfinished"></translation>
+        <translation>Модуль, чьи архивы и папка в modules/ накладываются на данные игры</translation>
     </message>
     <message>
         <source>Module:</source>
-        <translation type="unfinished"></translation>
+        <translation>Модуль:</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>Open the selected file in the page of its kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть выбранный файл на странице его вида</translation>
     </message>
     <message>
         <source>Extract…</source>
-        <translation type="unfinished"></translation>
+        <translation>Извлечь…</translation>
     </message>
     <message>
         <source>Copy the selected files or folders out of the game</source>
-        <translation type="unfinished"></translation>
+        <translation>Скопировать выбранные файлы или папки из игры</translation>
     </message>
     <message>
         <source>Pack folder into archive…</source>
-        <translation type="unfinished"></translation>
+        <translation>Упаковать папку в архив…</translation>
     </message>
     <message>
         <source>Write every file below a folder into a new .dat archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Записать все файлы из папки в новый архив .dat</translation>
     </message>
     <message>
         <source>%1 files in %2 layers, %3 overriding an earlier layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлов: %1 в слоях: %2, заменяют файл более раннего слоя: %3</translation>
     </message>
     <message>
         <source>Cannot open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся открыть файл</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Extracting %1 files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Извлечение файлов: %1…</translation>
     </message>
     <message>
         <source>Extract</source>
-        <translation type="unfinished"></translation>
+        <translation>Извлечь</translation>
     </message>
     <message>
         <source>Extract to</source>
-        <translation type="unfinished"></translation>
+        <translation>Извлечь в</translation>
     </message>
     <message>
         <source>%1 files written below %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлов записано в %2: %1</translation>
     </message>
     <message>
         <source>Folder to pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка для упаковки</translation>
     </message>
     <message>
         <source>Save archive as</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить архив как</translation>
     </message>
     <message>
         <source>Arcanum archives (*.dat)</source>
-        <translation type="unfinished"></translation>
+        <translation>Архивы Arcanum (*.dat)</translation>
     </message>
     <message>
         <source>Packing %1 files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Упаковка файлов: %1…</translation>
     </message>
     <message>
         <source>Pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Упаковать</translation>
     </message>
     <message>
         <source>%1 was not written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 не записан: %2</translation>
     </message>
     <message>
         <source>cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>отменено</translation>
     </message>
 </context>
 <context>
     <name>HexWidget</name>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Неизвестно</translation>
     </message>
     <message>
         <source>File position of the selected byte</source>
-        <translation type="unfinished"></translation>
+        <translation>Позиция выбранного байта в файле</translation>
     </message>
 </context>
 <context>
     <name>LineToolsWidget</name>
     <message>
         <source>Move the line up</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить строку вверх</translation>
     </message>
     <message>
         <source>Delete the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить строку</translation>
     </message>
     <message>
         <source>Move the line down</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить строку вниз</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Pick a script in the list on the left, or open one with Ctrl+O.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите скрипт в списке слева или откройте его по Ctrl+O.</translation>
     </message>
     <message>
         <source>Pick a message file in the tree on the left, or open one with Ctrl+O.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите файл сообщений в дереве слева или откройте его по Ctrl+O.</translation>
     </message>
     <message>
         <source>Open a dialogue file with Ctrl+O; the game keeps them in data/dlg/.</source>
-        <translation type="unfinished"></translation>
+        <translation>Откройте файл диалога по Ctrl+O; игра хранит их в data/dlg/.</translation>
     </message>
     <message>
         <source>Pick an art file in the tree on the left, or open one with Ctrl+O.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите файл графики в дереве слева или откройте его по Ctrl+O.</translation>
     </message>
     <message>
         <source>Pick a prototype in the list on the left, or open one with Ctrl+O.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите прототип в списке слева или откройте его по Ctrl+O.</translation>
     </message>
     <message>
         <source>Game</source>
-        <translation type="unfinished"></translation>
+        <translation>Игра</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Открыть…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Сохранить</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить &amp;как…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Выход</translation>
     </message>
     <message>
         <source>&amp;Find file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Найти файл</translation>
     </message>
     <message>
         <source>&amp;Rescan files</source>
-        <translation type="unfinished"></translation>
+        <translation>П&amp;ересканировать файлы</translation>
     </message>
     <message>
         <source>File lists rescanned</source>
-        <translation type="unfinished"></translation>
+        <translation>Списки файлов обновлены</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Файл</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Правка</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Отменить</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Повторить</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Вид</translation>
     </message>
     <message>
         <source>Undo history</source>
-        <translation type="unfinished"></translation>
+        <translation>История отмен</translation>
     </message>
     <message>
         <source>&lt;file as opened&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;файл как открыт&gt;</translation>
     </message>
     <message>
         <source>Undo &amp;history</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;История отмен</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Справка</translation>
     </message>
     <message>
         <source>Filter files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтр файлов (%1)</translation>
     </message>
     <message>
         <source>Show only the files whose name contains this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Показывать только файлы, имя которых содержит этот текст</translation>
     </message>
     <message>
         <source>MES</source>
-        <translation type="unfinished"></translation>
+        <translation>MES</translation>
     </message>
     <message>
         <source>RULES</source>
-        <translation type="unfinished"></translation>
+        <translation>RULES</translation>
     </message>
     <message>
         <source>SEMES</source>
-        <translation type="unfinished"></translation>
+        <translation>SEMES</translation>
     </message>
     <message>
         <source>OEMES</source>
-        <translation type="unfinished"></translation>
+        <translation>OEMES</translation>
     </message>
     <message>
         <source>DLG</source>
-        <translation type="unfinished"></translation>
+        <translation>DLG</translation>
     </message>
     <message>
         <source>Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Палитра</translation>
     </message>
     <message>
         <source>%1 is inside %2: extract it from the Game tab to edit it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 находится в %2: извлеките его на вкладке «Игра», чтобы изменить.</translation>
     </message>
     <message>
         <source>Cannot open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся открыть файл</translation>
     </message>
     <message>
         <source>Could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть %1: %2</translation>
     </message>
     <message>
         <source>Palette %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Палитра %1</translation>
     </message>
     <message>
         <source>Cannot open</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся открыть</translation>
     </message>
     <message>
         <source>%1: not a file qtLoreka edits (.mes, .dlg, .scr, .art, .pro)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: qtLoreka не редактирует такие файлы (.mes, .dlg, .scr, .art, .pro)</translation>
     </message>
     <message>
         <source>an archive</source>
-        <translation type="unfinished"></translation>
+        <translation>архив</translation>
     </message>
     <message>
         <source>%1: no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: нет такого файла</translation>
     </message>
     <message>
         <source>%1[*] — qtLoreka</source>
-        <translation type="unfinished"></translation>
+        <translation>%1[*] — qtLoreka</translation>
     </message>
     <message>
         <source>qtLoreka</source>
-        <translation type="unfinished"></translation>
+        <translation>qtLoreka</translation>
     </message>
     <message>
         <source>File changed on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл изменён на диске</translation>
     </message>
     <message>
         <source>%1 changed on disk. Reload and lose your changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 изменён на диске. Перечитать его и потерять ваши изменения?</translation>
     </message>
     <message>
         <source>%1 changed on disk and could not be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 изменён на диске и не может быть прочитан: %2</translation>
     </message>
     <message>
         <source>%1 was reloaded: it changed on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 перечитан: он изменился на диске</translation>
     </message>
     <message>
         <source>Recover unsaved work</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить несохранённую работу</translation>
     </message>
     <message>
         <source>qtLoreka did not close cleanly. Unsaved changes of these files were kept:
 %1
 
 Restore them (they open modified, not saved) or discard them?</source>
-        <translation type="unfinished"></translation>
+        <translation>qtLoreka завершилась некорректно. Несохранённые изменения этих файлов сохранены:
+%1
+
+Восстановить их (они откроются изменёнными, но не сохранёнными) или отбросить?</translation>
     </message>
 </context>
 <context>
     <name>MainWindowClass</name>
     <message>
         <source>qtLoreka</source>
-        <translation type="unfinished"></translation>
+        <translation>qtLoreka</translation>
     </message>
     <message>
         <source>Script</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипт</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый</translation>
     </message>
     <message>
         <source>Start a new script file</source>
-        <translation type="unfinished"></translation>
+        <translation>Начать новый файл скрипта</translation>
     </message>
     <message>
         <source>Delete the selected script file</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить выбранный файл скрипта</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Mes</source>
-        <translation type="unfinished"></translation>
+        <translation>Сообщения</translation>
     </message>
     <message>
         <source>Dialogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Диалог</translation>
     </message>
     <message>
         <source>Art</source>
-        <translation type="unfinished"></translation>
+        <translation>Графика</translation>
     </message>
     <message>
         <source>Proto</source>
-        <translation type="unfinished"></translation>
+        <translation>Прототипы</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл</translation>
     </message>
     <message>
         <source> ? </source>
-        <translation type="unfinished"></translation>
+        <translation> ? </translation>
     </message>
     <message>
         <source>Configure</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Выход</translation>
     </message>
     <message>
         <source>Ctrl+X</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+X</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>О программе</translation>
     </message>
     <message>
         <source>Ctrl+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+N</translation>
     </message>
     <message>
         <source>Ctrl+Del</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Del</translation>
     </message>
 </context>
 <context>
     <name>MesDocument</name>
     <message>
         <source>1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>1 строка</translation>
     </message>
     <message>
         <source>%1 lines</source>
-        <translation type="unfinished"></translation>
+        <translation>строк: %1</translation>
     </message>
     <message>
         <source>Saving in %1 would change %2 that were not edited: the file does not read cleanly in this encoding (first: line %3). Choose another encoding to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранение в %1 изменит %2, которые вы не правили: файл не читается в этой кодировке без потерь (первая: строка %3). Выберите другую кодировку, чтобы сохранить их.</translation>
     </message>
     <message>
         <source>entry %1 (line %2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>запись %1 (строка %2): %3</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>и ещё %1</translation>
     </message>
     <message>
         <source>1 entry cannot be read and is kept as it is: </source>
-        <translation type="unfinished"></translation>
+        <translation>1 запись не читается и сохраняется как есть: </translation>
     </message>
     <message>
         <source>%1 entries cannot be read and are kept as they are: </source>
-        <translation type="unfinished"></translation>
+        <translation>Записей, которые не читаются и сохраняются как есть: %1: </translation>
     </message>
     <message>
         <source>Pick the file&apos;s encoding below before editing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Перед правкой выберите ниже кодировку файла.</translation>
     </message>
 </context>
 <context>
     <name>MesTableModel</name>
     <message>
         <source>Line %1 cannot be read: %2. It is written back exactly as read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Строку %1 не удалось прочитать: %2. Она записывается обратно в точности как прочитана.</translation>
     </message>
     <message>
         <source>Edit comment of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить комментарий к %1</translation>
     </message>
     <message>
         <source>Edit text of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить текст %1</translation>
     </message>
 </context>
 <context>
     <name>MesWidget</name>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Форма</translation>
     </message>
     <message>
         <source>&lt;b&gt;File header&lt;/b&gt;&lt;br/&gt;Everything above the first entry. It is written back as it stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Заголовок файла&lt;/b&gt;&lt;br/&gt;Всё, что выше первой записи. Записывается обратно так, как написано здесь.</translation>
     </message>
     <message>
         <source>File header (text above the first entry)</source>
-        <translation type="unfinished"></translation>
+        <translation>Заголовок файла (текст над первой записью)</translation>
     </message>
     <message>
         <source>&lt;b&gt;Cell text&lt;/b&gt;&lt;br/&gt;The text of the selected cell. Edit longer and multi-line texts here; the table follows as you type.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Текст ячейки&lt;/b&gt;&lt;br/&gt;Текст выбранной ячейки. Длинные и многострочные тексты правьте здесь; таблица обновляется по мере ввода.</translation>
     </message>
     <message>
         <source>Select a cell to edit its text here</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите ячейку, чтобы изменить её текст здесь</translation>
     </message>
     <message>
         <source>&lt;b&gt;Source line&lt;/b&gt;&lt;br/&gt;The selected entry as it will be written to the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Исходная строка&lt;/b&gt;&lt;br/&gt;Выбранная запись в том виде, в каком она будет записана в файл.</translation>
     </message>
     <message>
         <source>File encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>Кодировка файла:</translation>
     </message>
     <message>
         <source>&lt;b&gt;File encoding&lt;/b&gt;&lt;br/&gt;The file is read and saved in this encoding. Choosing another one reads the file again from disk: unsaved changes are dropped.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Кодировка файла&lt;/b&gt;&lt;br/&gt;Файл читается и сохраняется в этой кодировке. Выбор другой перечитывает файл с диска: несохранённые изменения теряются.</translation>
     </message>
     <message>
         <source>Reload file</source>
-        <translation type="unfinished"></translation>
+        <translation>Перечитать файл</translation>
     </message>
     <message>
         <source>&lt;b&gt;Reload file&lt;/b&gt;&lt;br/&gt;Reads the file again from disk and drops every unsaved change.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Перечитать файл&lt;/b&gt;&lt;br/&gt;Читает файл с диска заново и отбрасывает все несохранённые изменения.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>&lt;b&gt;Save&lt;/b&gt;&lt;br/&gt;Overwrites the file with the table, header and comments, using Windows line ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Сохранить&lt;/b&gt;&lt;br/&gt;Перезаписывает файл таблицей, заголовком и комментариями с концами строк Windows.</translation>
     </message>
     <message>
         <source>Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как...</translation>
     </message>
     <message>
         <source>&lt;b&gt;Save As&lt;/b&gt;&lt;br/&gt;Writes the file under a new name and opens that file.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Сохранить как&lt;/b&gt;&lt;br/&gt;Записывает файл под новым именем и открывает этот файл.</translation>
     </message>
     <message>
         <source>Arcanum Mes files (*.mes);;Arcanum Dialogue files (*.dlg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы сообщений Arcanum (*.mes);;Файлы диалогов Arcanum (*.dlg);;Все файлы (*)</translation>
     </message>
     <message>
         <source>&lt;b&gt;Source line&lt;/b&gt;&lt;br/&gt;This line could not be read (%1). It is written back exactly as read.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Исходная строка&lt;/b&gt;&lt;br/&gt;Эту строку не удалось прочитать (%1). Она записывается обратно в точности как прочитана.</translation>
     </message>
     <message>
         <source>Edit header</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить заголовок</translation>
     </message>
 </context>
 <context>
     <name>Mesfile</name>
     <message>
         <source>Entry contains no &apos;{&apos; or &apos;}&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>В записи нет «{» или «}»</translation>
     </message>
     <message>
         <source>Index could not be parsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось разобрать номер</translation>
     </message>
     <message>
         <source>&apos;{&apos; at index %1 has no matching &apos;}&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>у «{» в позиции %1 нет парной «}»</translation>
     </message>
     <message>
         <source>Index: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер: %1</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Комментарий</translation>
     </message>
     <message>
         <source>Item 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Предмет 1</translation>
     </message>
     <message>
         <source>Item %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Предмет %1</translation>
     </message>
     <message>
         <source>Invalid col. id</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный номер столбца</translation>
     </message>
 </context>
 <context>
     <name>OpcodeWords</name>
     <message>
         <source>value</source>
-        <translation type="unfinished"></translation>
+        <translation>значение</translation>
     </message>
 </context>
 <context>
     <name>Page</name>
     <message>
         <source>Cannot open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся открыть файл</translation>
     </message>
     <message>
         <source>Could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть %1: %2</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>%1 comes from %2. Saving writes it as a loose file in %3, which then overrides the archived copy. Save?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 взят из %2. Сохранение запишет его отдельным файлом в %3, который заменит копию из архива. Сохранить?</translation>
     </message>
     <message>
         <source>Overwrite %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Перезаписать %1?</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
 </context>
 <context>
     <name>PageFrame</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как…</translation>
     </message>
     <message>
         <source>Write the open file in place (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Записать открытый файл на место (Ctrl+S)</translation>
     </message>
     <message>
         <source>Write the open file under another name (Ctrl+Shift+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Записать открытый файл под другим именем (Ctrl+Shift+S)</translation>
     </message>
     <message>
         <source>No file open</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл не открыт</translation>
     </message>
     <message>
         <source>not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>ещё не сохранён</translation>
     </message>
     <message>
         <source>from %1; a save writes it to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>из %1; сохранение запишет его в %2</translation>
     </message>
     <message>
         <source>%1 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — %2</translation>
     </message>
 </context>
 <context>
     <name>PaletteFile</name>
     <message>
         <source>a palette file is %1 bytes long, this one %2%3</source>
-        <translation type="unfinished"></translation>
+        <translation>файл палитры занимает %1 байт, этот — %2%3</translation>
     </message>
 </context>
 <context>
     <name>ProtoDamagesWidget</name>
     <message>
         <source>Resistances</source>
-        <translation type="unfinished"></translation>
+        <translation>Сопротивления</translation>
     </message>
     <message>
         <source>Damage</source>
-        <translation type="unfinished"></translation>
+        <translation>Урон</translation>
     </message>
     <message>
         <source>Fire</source>
-        <translation type="unfinished"></translation>
+        <translation>Огонь</translation>
     </message>
     <message>
         <source>Electical</source>
-        <translation type="unfinished"></translation>
+        <translation>Электричество</translation>
     </message>
     <message>
         <source>Poison</source>
-        <translation type="unfinished"></translation>
+        <translation>Яд</translation>
     </message>
     <message>
         <source>Magic</source>
-        <translation type="unfinished"></translation>
+        <translation>Магия</translation>
     </message>
 </context>
 <context>
     <name>ProtoDocument</name>
     <message>
         <source>%1 (at byte %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (на байте %2)</translation>
     </message>
     <message>
         <source>the prototype could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>прототип не удалось записать</translation>
     </message>
 </context>
 <context>
     <name>ProtoScriptsWidget</name>
     <message>
         <source>Scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипты</translation>
     </message>
     <message>
         <source>The script this event runs and its counters; click to change them</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипт, запускаемый этим событием, и его счётчики; щёлкните, чтобы изменить</translation>
     </message>
     <message>
         <source>Whether the object runs a script when this event happens</source>
-        <translation type="unfinished"></translation>
+        <translation>Запускает ли объект скрипт при этом событии</translation>
     </message>
     <message>
         <source>Click to attach a script</source>
-        <translation type="unfinished"></translation>
+        <translation>Щёлкните, чтобы назначить скрипт</translation>
     </message>
     <message>
         <source>Script %1, counters %2, flags 0x%3. Click to change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипт %1, счётчики %2, флаги 0x%3. Щёлкните, чтобы изменить.</translation>
     </message>
 </context>
 <context>
     <name>ProtoWidget</name>
     <message>
         <source>Item index:</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер предмета:</translation>
     </message>
     <message>
         <source>No item</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет предмета</translation>
     </message>
     <message>
         <source>Item type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип предмета:</translation>
     </message>
     <message>
         <source>Header</source>
-        <translation type="unfinished"></translation>
+        <translation>Заголовок</translation>
     </message>
     <message>
         <source>Wall data (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Стена (0)</translation>
     </message>
     <message>
         <source>Static data</source>
-        <translation type="unfinished"></translation>
+        <translation>Статические данные</translation>
     </message>
     <message>
         <source>Internal index</source>
-        <translation type="unfinished"></translation>
+        <translation>Внутренний номер</translation>
     </message>
     <message>
         <source>Known index</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер опознанного</translation>
     </message>
     <message>
         <source>Hit points</source>
-        <translation type="unfinished"></translation>
+        <translation>Очки здоровья</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Материал</translation>
     </message>
     <message>
         <source>Object flags</source>
-        <translation type="unfinished"></translation>
+        <translation>Флаги объекта</translation>
     </message>
     <message>
         <source>Flat</source>
-        <translation type="unfinished"></translation>
+        <translation>Плоский</translation>
     </message>
     <message>
         <source>See through</source>
-        <translation type="unfinished"></translation>
+        <translation>Прозрачен для взгляда</translation>
     </message>
     <message>
         <source>Shoot through</source>
-        <translation type="unfinished"></translation>
+        <translation>Простреливается</translation>
     </message>
     <message>
         <source>No block</source>
-        <translation type="unfinished"></translation>
+        <translation>Не загораживает</translation>
     </message>
     <message>
         <source>Click through</source>
-        <translation type="unfinished"></translation>
+        <translation>Прозрачен для щелчков</translation>
     </message>
     <message>
         <source>Don&apos;t light</source>
-        <translation type="unfinished"></translation>
+        <translation>Не освещать</translation>
     </message>
     <message>
         <source>Invulnerable</source>
-        <translation type="unfinished"></translation>
+        <translation>Неуязвим</translation>
     </message>
     <message>
         <source>Illusion</source>
-        <translation type="unfinished"></translation>
+        <translation>Иллюзия</translation>
     </message>
     <message>
         <source>Stoned</source>
-        <translation type="unfinished"></translation>
+        <translation>Окаменел</translation>
     </message>
     <message>
         <source>Portal (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Портал (1)</translation>
     </message>
     <message>
         <source>No additional data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Дополнительных данных нет.</translation>
     </message>
     <message>
         <source>Container (2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Контейнер (2)</translation>
     </message>
     <message>
         <source>Scenery (3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Декорация (3)</translation>
     </message>
     <message>
         <source>Trap (17)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ловушка (17)</translation>
     </message>
     <message>
         <source>Movable data</source>
-        <translation type="unfinished"></translation>
+        <translation>Данные подвижного объекта</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Звук</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Вес</translation>
     </message>
     <message>
         <source>Magickal weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Магический вес</translation>
     </message>
     <message>
         <source>Worth</source>
-        <translation type="unfinished"></translation>
+        <translation>Цена</translation>
     </message>
     <message>
         <source>Mana store</source>
-        <translation type="unfinished"></translation>
+        <translation>Запас маны</translation>
     </message>
     <message>
         <source>Magick complexicy</source>
-        <translation type="unfinished"></translation>
+        <translation>Сложность магии</translation>
     </message>
     <message>
         <source>Effect index</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер эффекта</translation>
     </message>
     <message>
         <source>Spells mana store</source>
-        <translation type="unfinished"></translation>
+        <translation>Запас маны заклинаний</translation>
     </message>
     <message>
         <source>Item flags</source>
-        <translation type="unfinished"></translation>
+        <translation>Флаги предмета</translation>
     </message>
     <message>
         <source>Identified</source>
-        <translation type="unfinished"></translation>
+        <translation>Опознан</translation>
     </message>
     <message>
         <source>Unsellable</source>
-        <translation type="unfinished"></translation>
+        <translation>Не продаётся</translation>
     </message>
     <message>
         <source>Is magickal</source>
-        <translation type="unfinished"></translation>
+        <translation>Магический</translation>
     </message>
     <message>
         <source>Transfer light</source>
-        <translation type="unfinished"></translation>
+        <translation>Передаёт свет</translation>
     </message>
     <message>
         <source>No display</source>
-        <translation type="unfinished"></translation>
+        <translation>Не отображать</translation>
     </message>
     <message>
         <source>No drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Нельзя выбросить</translation>
     </message>
     <message>
         <source>Hexed</source>
-        <translation type="unfinished"></translation>
+        <translation>Проклят</translation>
     </message>
     <message>
         <source>Can use box</source>
-        <translation type="unfinished"></translation>
+        <translation>Может использовать ящик</translation>
     </message>
     <message>
         <source>Needs target</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужна цель</translation>
     </message>
     <message>
         <source>Persistent</source>
-        <translation type="unfinished"></translation>
+        <translation>Постоянный</translation>
     </message>
     <message>
         <source>Stolen</source>
-        <translation type="unfinished"></translation>
+        <translation>Краденый</translation>
     </message>
     <message>
         <source>No decay</source>
-        <translation type="unfinished"></translation>
+        <translation>Не портится</translation>
     </message>
     <message>
         <source>Uber</source>
-        <translation type="unfinished"></translation>
+        <translation>Особый</translation>
     </message>
     <message>
         <source>No NPC pickup</source>
-        <translation type="unfinished"></translation>
+        <translation>NPC не подбирают</translation>
     </message>
     <message>
         <source>Projectile (4)</source>
-        <translation type="unfinished"></translation>
+        <translation>Снаряд (4)</translation>
     </message>
     <message>
         <source>Weapon (5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Оружие (5)</translation>
     </message>
     <message>
         <source>Bonus to hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Бонус к попаданию</translation>
     </message>
     <message>
         <source>Magickal bonus to hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Магический бонус к попаданию</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Скорость</translation>
     </message>
     <message>
         <source>Magickal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Магическая скорость</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Дальность</translation>
     </message>
     <message>
         <source>Magickal range</source>
-        <translation type="unfinished"></translation>
+        <translation>Магическая дальность</translation>
     </message>
     <message>
         <source>Minimum strengh required</source>
-        <translation type="unfinished"></translation>
+        <translation>Требуемая сила</translation>
     </message>
     <message>
         <source>Magickal minimum strengh required</source>
-        <translation type="unfinished"></translation>
+        <translation>Магическое требование к силе</translation>
     </message>
     <message>
         <source>Ammo type</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип боеприпасов</translation>
     </message>
     <message>
         <source>Ammo usage</source>
-        <translation type="unfinished"></translation>
+        <translation>Расход боеприпасов</translation>
     </message>
     <message>
         <source>Critical hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Критическое попадание</translation>
     </message>
     <message>
         <source>Magickal critical hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Магическое критическое попадание</translation>
     </message>
     <message>
         <source>Critical hit magickal efficiency</source>
-        <translation type="unfinished"></translation>
+        <translation>Магическая сила критического попадания</translation>
     </message>
     <message>
         <source>Critical miss</source>
-        <translation type="unfinished"></translation>
+        <translation>Критический промах</translation>
     </message>
     <message>
         <source>Magickal critical miss</source>
-        <translation type="unfinished"></translation>
+        <translation>Магический критический промах</translation>
     </message>
     <message>
         <source>Weapon flags</source>
-        <translation type="unfinished"></translation>
+        <translation>Флаги оружия</translation>
     </message>
     <message>
         <source>Loud</source>
-        <translation type="unfinished"></translation>
+        <translation>Громкий</translation>
     </message>
     <message>
         <source>Silent</source>
-        <translation type="unfinished"></translation>
+        <translation>Бесшумный</translation>
     </message>
     <message>
         <source>Two-handed</source>
-        <translation type="unfinished"></translation>
+        <translation>Двуручный</translation>
     </message>
     <message>
         <source>Hand count fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>Число рук фиксировано</translation>
     </message>
     <message>
         <source>Throwable</source>
-        <translation type="unfinished"></translation>
+        <translation>Метательный</translation>
     </message>
     <message>
         <source>Boomerang</source>
-        <translation type="unfinished"></translation>
+        <translation>Бумеранг</translation>
     </message>
     <message>
         <source>Ammo (6)</source>
-        <translation type="unfinished"></translation>
+        <translation>Боеприпасы (6)</translation>
     </message>
     <message>
         <source>Armor (7)</source>
-        <translation type="unfinished"></translation>
+        <translation>Броня (7)</translation>
     </message>
     <message>
         <source>Armor class</source>
-        <translation type="unfinished"></translation>
+        <translation>Класс брони</translation>
     </message>
     <message>
         <source>Magickal armor class</source>
-        <translation type="unfinished"></translation>
+        <translation>Магический класс брони</translation>
     </message>
     <message>
         <source>Silent move</source>
-        <translation type="unfinished"></translation>
+        <translation>Бесшумное движение</translation>
     </message>
     <message>
         <source>Magickal silent move</source>
-        <translation type="unfinished"></translation>
+        <translation>Магическое бесшумное движение</translation>
     </message>
     <message>
         <source>Gold (8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Золото (8)</translation>
     </message>
     <message>
         <source>Food (9)</source>
-        <translation type="unfinished"></translation>
+        <translation>Еда (9)</translation>
     </message>
     <message>
         <source>Scroll (10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Свиток (10)</translation>
     </message>
     <message>
         <source>Key (11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ключ (11)</translation>
     </message>
     <message>
         <source>Keyring (12)</source>
-        <translation type="unfinished"></translation>
+        <translation>Связка ключей (12)</translation>
     </message>
     <message>
         <source>Schematic (13)</source>
-        <translation type="unfinished"></translation>
+        <translation>Схема (13)</translation>
     </message>
     <message>
         <source>Scroll type</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип свитка</translation>
     </message>
     <message>
         <source>Starting line</source>
-        <translation type="unfinished"></translation>
+        <translation>Первая строка</translation>
     </message>
     <message>
         <source>Ending line</source>
-        <translation type="unfinished"></translation>
+        <translation>Последняя строка</translation>
     </message>
     <message>
         <source>Generic (14)</source>
-        <translation type="unfinished"></translation>
+        <translation>Разное (14)</translation>
     </message>
     <message>
         <source>NPC (15)</source>
-        <translation type="unfinished"></translation>
+        <translation>NPC (15)</translation>
     </message>
     <message>
         <source>Arcanum Proto (*.pro);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Прототипы Arcanum (*.pro);;Все файлы (*)</translation>
     </message>
     <message>
         <source>Edit prototype</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить прототип</translation>
     </message>
     <message>
         <source>Edit %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить %1</translation>
     </message>
     <message>
         <source>Resistances</source>
-        <translation type="unfinished"></translation>
+        <translation>Сопротивления</translation>
     </message>
     <message>
         <source>Magickal resistances</source>
-        <translation type="unfinished"></translation>
+        <translation>Магические сопротивления</translation>
     </message>
     <message>
         <source>Minimal damages</source>
-        <translation type="unfinished"></translation>
+        <translation>Минимальный урон</translation>
     </message>
     <message>
         <source>Maximal damages</source>
-        <translation type="unfinished"></translation>
+        <translation>Максимальный урон</translation>
     </message>
     <message>
         <source>Magickal damages</source>
-        <translation type="unfinished"></translation>
+        <translation>Магический урон</translation>
+    </message>
+    <message>
+        <source>Unknown bytes %1</source>
+        <translation>Неизвестные байты %1</translation>
+    </message>
+    <message>
+        <source>Unknown bytes %1 [%2]</source>
+        <translation>Неизвестные байты %1 [%2]</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>the file could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>файл не удалось прочитать</translation>
     </message>
 </context>
 <context>
     <name>SaveGuard</name>
     <message>
         <source>Unsaved changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Несохранённые изменения</translation>
     </message>
     <message>
         <source>Save changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить изменения в %1?</translation>
     </message>
     <message>
         <source>Save would change the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранение изменит файл</translation>
     </message>
     <message>
         <source>Save anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё равно сохранить?</translation>
     </message>
     <message>
         <source>Save failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранение не удалось</translation>
     </message>
     <message>
         <source>Could not save %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить %1: %2</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как</translation>
     </message>
 </context>
 <context>
     <name>ScriptDocument</name>
     <message>
         <source>a script&apos;s file name starts with its five-digit number (00042name.scr)</source>
-        <translation type="unfinished"></translation>
+        <translation>имя файла скрипта начинается с его пятизначного номера (00042name.scr)</translation>
     </message>
     <message>
         <source>the file is %1 bytes long, shorter than the %2-byte header</source>
-        <translation type="unfinished"></translation>
+        <translation>длина файла %1 байт — меньше заголовка в %2 байт</translation>
     </message>
     <message>
         <source>its header counts %1 lines</source>
-        <translation type="unfinished"></translation>
+        <translation>по заголовку в нём строк: %1</translation>
     </message>
     <message>
         <source>its header counts %1 lines (%2 bytes) but the file ends at byte %3: the lines from %4 on are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>по заголовку в нём строк: %1 (%2 байт), но файл кончается на байте %3: строк начиная с %4 нет</translation>
     </message>
     <message>
         <source>its header counts %1 lines (%2 bytes) but the file holds %3 bytes: %4 bytes after the last line are not shown</source>
-        <translation type="unfinished"></translation>
+        <translation>по заголовку в нём строк: %1 (%2 байт), но в файле %3 байт: %4 байт после последней строки не показаны</translation>
     </message>
     <message>
         <source>line %1, condition %2</source>
-        <translation type="unfinished"></translation>
+        <translation>строка %1, условие %2</translation>
     </message>
     <message>
         <source>line %1, action %2</source>
-        <translation type="unfinished"></translation>
+        <translation>строка %1, действие %2</translation>
     </message>
     <message>
         <source>%1 of %2 lines hold statements no script uses (first: %3); the file is probably not a script</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 из %2 строк содержат операторы, которых не бывает в скриптах (первая: %3); вероятно, это не скрипт</translation>
     </message>
 </context>
 <context>
     <name>ScriptWidget</name>
     <message>
         <source>Script</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипт</translation>
     </message>
     <message>
         <source>Script number (from the file name)</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер скрипта (из имени файла)</translation>
     </message>
     <message>
         <source>No script</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет скрипта</translation>
     </message>
     <message>
         <source>Description (up to 40 characters)</source>
-        <translation type="unfinished"></translation>
+        <translation>Описание (до 40 символов)</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Описание</translation>
     </message>
     <message>
         <source>Append a line that always runs an action</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить в конец строку, которая всегда выполняет действие</translation>
     </message>
     <message>
         <source>DO</source>
-        <translation type="unfinished"></translation>
+        <translation>DO</translation>
     </message>
     <message>
         <source>Append a line with a condition and two actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить в конец строку с условием и двумя действиями</translation>
     </message>
     <message>
         <source>IF</source>
-        <translation type="unfinished"></translation>
+        <translation>IF</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Только чтение</translation>
     </message>
     <message>
         <source>RO</source>
-        <translation type="unfinished"></translation>
+        <translation>RO</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Arcanum scripts (*.scr);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрипты Arcanum (*.scr);;Все файлы (*)</translation>
     </message>
     <message>
         <source>Add IF line</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить строку IF</translation>
     </message>
     <message>
         <source>Add DO line</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить строку DO</translation>
     </message>
     <message>
         <source>Edit description</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить описание</translation>
     </message>
     <message>
         <source>Move line %1 up</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить строку %1 вверх</translation>
     </message>
     <message>
         <source>Move line %1 down</source>
-        <translation type="unfinished"></translation>
+        <translation>Переместить строку %1 вниз</translation>
     </message>
     <message>
         <source>Delete line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить строку %1</translation>
     </message>
     <message>
         <source>Change statement of line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить оператор строки %1</translation>
     </message>
     <message>
         <source>Edit operand of line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить операнд строки %1</translation>
+    </message>
+    <message>
+        <source>Write the script in place (Ctrl+S)</source>
+        <translation>Записать скрипт на место (Ctrl+S)</translation>
     </message>
 </context>
 <context>
     <name>TextDecoding</name>
     <message>
         <source>Line %1 cannot be read in %2 without change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Строку %1 нельзя прочитать в %2 без изменений.</translation>
     </message>
     <message>
         <source>Line %1 and %2 more lines cannot be read in %3 without change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Строку %1 и ещё строк: %2 нельзя прочитать в %3 без изменений.</translation>
     </message>
 </context>
 <context>
     <name>TokensWidget</name>
     <message>
         <source>Double-click to choose another statement</source>
-        <translation type="unfinished"></translation>
+        <translation>Дважды щёлкните, чтобы выбрать другой оператор</translation>
     </message>
     <message>
         <source>&lt;line&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;строка&gt;</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>строка %1</translation>
     </message>
 </context>
 <context>
     <name>ToolTipFiller</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1: checked sets it, unchecked clears it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: отметка устанавливает, снятие отметки сбрасывает</translation>
     </message>
     <message>
         <source>%1: a whole number from %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: целое число от %2 до %3</translation>
     </message>
     <message>
         <source>%1: a number from %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: число от %2 до %3</translation>
     </message>
     <message>
         <source>%1: one of the values the game knows (type to jump to one)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: одно из значений, известных игре (наберите текст, чтобы перейти к нему)</translation>
     </message>
 </context>
 <context>
     <name>arcanum::DatArchive</name>
     <message>
         <source>not an archive: %1 bytes are too few for its trailer</source>
-        <translation type="unfinished"></translation>
+        <translation>не архив: %1 байт мало для его концевика</translation>
     </message>
     <message>
         <source>not an archive: the file does not end in an archive trailer</source>
-        <translation type="unfinished"></translation>
+        <translation>не архив: файл не кончается концевиком архива</translation>
     </message>
     <message>
         <source>the trailer gives a directory of %1 bytes, which does not fit the %2-byte file</source>
-        <translation type="unfinished"></translation>
+        <translation>концевик указывает каталог в %1 байт, который не помещается в файл размером %2 байт</translation>
     </message>
     <message>
         <source>the directory&apos;s own position (%1) lies outside the file</source>
-        <translation type="unfinished"></translation>
+        <translation>собственная позиция каталога (%1) лежит вне файла</translation>
     </message>
     <message>
         <source>the directory at byte %1 is too short for its count</source>
-        <translation type="unfinished"></translation>
+        <translation>каталог на байте %1 короче, чем требует его счётчик</translation>
     </message>
     <message>
         <source>the directory counts %1 entries, more than its %2 bytes can hold</source>
-        <translation type="unfinished"></translation>
+        <translation>в каталоге записей: %1 — больше, чем вмещают его %2 байт</translation>
     </message>
     <message>
         <source>the directory ends inside entry %1</source>
-        <translation type="unfinished"></translation>
+        <translation>каталог кончается внутри записи %1</translation>
     </message>
     <message>
         <source>the name of entry %1 (at byte %2) runs past the directory&apos;s end</source>
-        <translation type="unfinished"></translation>
+        <translation>имя записи %1 (на байте %2) выходит за конец каталога</translation>
     </message>
     <message>
         <source>%1 is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — это папка</translation>
     </message>
     <message>
         <source>%1 lies outside the archive&apos;s data (bytes %2 to %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 лежит вне данных архива (байты с %2 по %3)</translation>
     </message>
     <message>
         <source>%1 claims %2 bytes from %3 packed ones, more than a zlib stream can hold</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 заявляет %2 байт из %3 сжатых — больше, чем может вместить поток zlib</translation>
     </message>
     <message>
         <source>%1 could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>не удалось прочитать %1</translation>
     </message>
     <message>
         <source>%1: the zlib stream is damaged or does not inflate to its %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: поток zlib повреждён или не распаковывается в свои %2 байт</translation>
     </message>
     <message>
         <source>an empty name</source>
-        <translation type="unfinished"></translation>
+        <translation>пустое имя</translation>
     </message>
     <message>
         <source>a NUL inside the name</source>
-        <translation type="unfinished"></translation>
+        <translation>NUL внутри имени</translation>
     </message>
     <message>
         <source>an absolute path</source>
-        <translation type="unfinished"></translation>
+        <translation>абсолютный путь</translation>
     </message>
     <message>
         <source>a drive letter</source>
-        <translation type="unfinished"></translation>
+        <translation>букву диска</translation>
     </message>
     <message>
         <source>a &quot;..&quot; that leads out of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>«..», ведущее за пределы папки</translation>
     </message>
     <message>
         <source>%1: the name holds %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: имя содержит %2</translation>
     </message>
     <message>
         <source>%1: the name is used again (first as entry %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: имя использовано повторно (впервые в записи %2)</translation>
     </message>
     <message>
         <source>%1: out of order, the engine&apos;s search will not find it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: не по порядку, поиск движка его не найдёт</translation>
     </message>
     <message>
         <source>%1: flags 0x%2 are neither stored nor compressed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: флаги 0x%2 — ни «без сжатия», ни «сжато»</translation>
     </message>
 </context>
 <context>
     <name>arcanum::DatWriter</name>
     <message>
         <source>%1: the name holds %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: имя содержит %2</translation>
     </message>
     <message>
         <source>%1: the name is given twice (letter case aside)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: имя указано дважды (без учёта регистра)</translation>
     </message>
     <message>
         <source>cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>отменено</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Editor for the data files of Arcanum</source>
-        <translation type="unfinished"></translation>
+        <translation>Редактор файлов данных Arcanum</translation>
     </message>
     <message>
         <source>Files to open (.mes, .dlg, .scr, .art, .pro).</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы для открытия (.mes, .dlg, .scr, .art, .pro).</translation>
     </message>
 </context>
 <context>
     <name>token_controls::TokenEditorNum</name>
     <message>
         <source>Where the number comes from; click to change</source>
-        <translation type="unfinished"></translation>
+        <translation>Откуда берётся число; щёлкните, чтобы изменить</translation>
+    </message>
+    <message>
+        <source>The number, or what it selects of the source on the left</source>
+        <translation>Число или то, что оно выбирает из источника слева</translation>
+    </message>
+</context>
+<context>
+    <name>token_controls::TokenEditorObj</name>
+    <message>
+        <source>The object the statement tests or acts on</source>
+        <translation>Объект, который оператор проверяет или на который действует</translation>
     </message>
 </context>
 </TS>

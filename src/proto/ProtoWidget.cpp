@@ -317,9 +317,9 @@ void ProtoWidget::updateData()
     if (!proto.isLoaded()) {
         ui->labelIndex->setText(tr("No item"));
         ui->labelItemType->setText(tr("No item"));
-        ui->hexUnknown1->setLabel(QStringLiteral("Unknown1"));
+        ui->hexUnknown1->setLabel(tr("Unknown bytes %1").arg(1));
         ui->hexUnknown1->setData(nullptr, 0, Proto::UNKNOWN1_OFFSET);
-        ui->hexUnknown2->setLabel(QStringLiteral("Unknown2"));
+        ui->hexUnknown2->setLabel(tr("Unknown bytes %1").arg(2));
         ui->hexUnknown2->setData(nullptr, 0, Proto::UNKNOWN2_OFFSET);
         return;
     }
@@ -332,10 +332,10 @@ void ProtoWidget::showHeader()
     const Proto::Header& head = model().header();
     ui->labelIndex->setText(QString::number(head.index));
     ui->labelItemType->setText(QString::fromStdString(Proto::itemTypeToString(Proto::ItemType(head.itemType))));
-    ui->hexUnknown1->setLabel(QStringLiteral("Unknown1 [0x0006 - 0x0023]"));
+    ui->hexUnknown1->setLabel(tr("Unknown bytes %1 [%2]").arg(1).arg(QStringLiteral("0x0006 - 0x0023")));
     ui->hexUnknown1->setData(head.unknown1.data(), head.unknown1.size(), Proto::UNKNOWN1_OFFSET);
     // The block holds 12 bytes although the label's range covers 8; the label is kept as modders know it.
-    ui->hexUnknown2->setLabel(QStringLiteral("Unknown2 [0x0028 - 0x002F]"));
+    ui->hexUnknown2->setLabel(tr("Unknown bytes %1 [%2]").arg(2).arg(QStringLiteral("0x0028 - 0x002F")));
     ui->hexUnknown2->setData(head.unknown2.data(), head.unknown2.size(), Proto::UNKNOWN2_OFFSET);
 }
 
