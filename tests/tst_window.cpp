@@ -2,6 +2,7 @@
 // files from outside, files changed on disk and recovery copies. Every check looks at the file on disk.
 #include "MainWindow.h"
 #include "CurrentDirGuard.h"
+#include "DialogueEditWidget.h"
 #include "Document.h"
 #include "FormatChecks.h"
 #include "GameWidget.h"
@@ -408,14 +409,19 @@ private slots:
     void pagesFitTheWindow_data()
     {
         QTest::addColumn<QSize>("size");
-        QTest::newRow("default 1200 × 800") << QSize(1200, 800);
-        QTest::newRow("small 1024 × 700") << QSize(1024, 700);
+        QTest::addColumn<int>("dialogueLine"); // 0: none open, 1: an NPC line, 2: a PC line
+        QTest::newRow("default 1200 × 800") << QSize(1200, 800) << 0;
+        QTest::newRow("small 1024 × 700") << QSize(1024, 700) << 0;
+        QTest::newRow("default, NPC line open") << QSize(1200, 800) << 1;
+        QTest::newRow("small, NPC line open") << QSize(1024, 700) << 1;
+        QTest::newRow("small, PC line open") << QSize(1024, 700) << 2;
     }
 
     // No control of any page is cut off and no form needs sideways scrolling, at the default size and a small one.
     void pagesFitTheWindow()
     {
         QFETCH(QSize, size);
+        QFETCH(int, dialogueLine);
         ScratchGame game;
         MainWindow window;
         window.resize(size);
@@ -425,6 +431,11 @@ private slots:
                           game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg")),
                           game.path(QStringLiteral("/data/art/sample_beetle.art")),
                           game.path(QStringLiteral("/data/proto/weapon_sword.pro"))});
+        auto* dialogue = window.findChild<DialogueEditWidget*>();
+        if (dialogue && dialogueLine == 1)
+            QVERIFY(dialogue->openNpcLine(1));
+        if (dialogue && dialogueLine == 2)
+            QVERIFY(dialogue->openPcLine(2));
         auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
         QStringList cut;
         for (int tab = 0; tab < tabs->count(); ++tab) {

@@ -115,3 +115,8 @@ void ArtWidget::selectionChanged(uint palette, uint image, uint frame)
 {
     editor->setFrame(palette, image, frame);
 }
+
+QList<QWidget*> ArtWidget::fileControls() const
+{
+    return {ui->labelFile, ui->buttonSave, ui->buttonSaveAs};
+}

@@ -29,6 +29,7 @@ public:
 
 protected:
     void showDocument() override;
+    QList<QWidget*> fileControls() const override;
 
 private slots:
     void on_buttonSave_clicked();

@@ -55,7 +55,7 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     connectSignals();
     ui->splitter->setStretchFactor(0, 0);
     ui->splitter->setStretchFactor(1, 1);
-    ui->splitter->setSizes({540, 700});
+    ui->splitter->setSizes({300, 940});
     ui->treesSplitter->setSizes({400, 260});
     // The forms sit on the page itself, not on a panel of their own.
     ui->scrollForms->viewport()->setAutoFillBackground(false);
@@ -198,13 +198,18 @@ void DialogueEditWidget::updateControls()
                                              ui->radioNPC, ui->radioPC, ui->formPanel};
     for (QWidget* widget : editingControls)
         widget->setEnabled(loaded);
-    ui->labelModified->setVisible(loaded && modified);
+    ui->labelModified->setVisible(loaded && modified && !isFramed());
 }
 
 void DialogueEditWidget::setModifiedState()
 {
     formEdited = true;
     updateControls();
+}
+
+QList<QWidget*> DialogueEditWidget::fileControls() const
+{
+    return {ui->labelCurrentFileTitle, ui->labelCurrentFile, ui->labelModified, ui->buttonOpenFile, ui->buttonSaveAs};
 }
 
 void DialogueEditWidget::on_buttonOpenFile_clicked()
@@ -372,10 +377,22 @@ bool DialogueEditWidget::openLine(const OpenLine& line, QWidget* form, const std
 {
     applyPendingForm();
     fill();
-    ui->stackForms->setCurrentWidget(form);
+    showForm(form);
     open = line;
     showOpenLine();
     return true;
+}
+
+// A stack is as wide as its widest page; only the page shown may claim room, or the short "no line"
+// hint would need the width of the line forms.
+void DialogueEditWidget::showForm(QWidget* form)
+{
+    for (int page = 0; page < ui->stackForms->count(); ++page) {
+        QWidget* widget = ui->stackForms->widget(page);
+        const QSizePolicy::Policy policy = widget == form ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        widget->setSizePolicy(policy, policy);
+    }
+    ui->stackForms->setCurrentWidget(form);
 }
 
 void DialogueEditWidget::reopen(const OpenLine& line)
@@ -390,7 +407,7 @@ void DialogueEditWidget::closeLine()
 {
     ui->pcForm->clear();
     ui->npcForm->clear();
-    ui->stackForms->setCurrentWidget(ui->pageNoLine);
+    showForm(ui->pageNoLine);
     open = OpenLine();
     showOpenLine();
 }

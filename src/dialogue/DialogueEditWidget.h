@@ -76,6 +76,8 @@ private:
     void updateControls();
     void showFileName();
     void closeLine();
+    QList<QWidget*> fileControls() const override;
+    void showForm(QWidget* form);
     bool openLine(const OpenLine& line, QWidget* form, const std::function<void()>& fill);
     void reopen(const OpenLine& line);
     void applyPendingForm();

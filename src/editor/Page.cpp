@@ -107,3 +107,10 @@ QString Page::dialogFolder() const
         return QFileInfo(document()->path()).absolutePath();
     return startFolder;
 }
+
+void Page::setFramed()
+{
+    framed = true;
+    for (QWidget* control : fileControls())
+        control->hide();
+}

@@ -49,6 +49,10 @@ public:
     // "Save changes to NAME?" for the shown document, as the abandon setting says: true when the work
     // was saved, discarded or there was none; false when the user cancelled or the save failed.
     bool settle();
+    // The window puts the page in a frame that names the file and offers Save and Save As; the page's
+    // own controls for the same are then hidden, so that each action has one place.
+    void setFramed();
+
 
 signals:
     // The page shows another document (or none); the window moves its undo group and marks.
@@ -60,6 +64,9 @@ protected:
     // A page whose form holds changes not yet in the document applies them here; called before the
     // document is asked whether it is modified, saved or replaced.
     virtual void commitPending() {}
+    // Controls repeating what the frame shows: the file's name, its modified mark, Open, Save, Save As.
+    virtual QList<QWidget*> fileControls() const { return {}; }
+    bool isFramed() const { return framed; }
 
 private:
     QString dialogFolder() const;
@@ -68,4 +75,5 @@ private:
     QString startFolder;
     bool confirmOverwrite = true;
     bool confirmAbandon = true;
+    bool framed = false;
 };

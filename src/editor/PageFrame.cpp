@@ -37,6 +37,7 @@ PageFrame::PageFrame(Page* page, const QString& hint, QWidget* parent)
     , column(new QVBoxLayout(this))
 {
     setObjectName(page->objectName() + QStringLiteral("Frame"));
+    page->setFramed();
     title->setObjectName(QStringLiteral("frameTitle"));
     detail->setObjectName(QStringLiteral("frameDetail"));
     detail->setTextInteractionFlags(Qt::TextSelectableByMouse);

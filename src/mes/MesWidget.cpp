@@ -252,3 +252,8 @@ void MesWidget::on_saveAsButton_clicked()
 {
     saveAs();
 }
+
+QList<QWidget*> MesWidget::fileControls() const
+{
+    return {ui->saveButton, ui->saveAsButton};
+}

@@ -34,6 +34,7 @@ public:
 
 protected:
     void showDocument() override;
+    QList<QWidget*> fileControls() const override;
 
 private slots:
     void on_reloadButton_clicked();

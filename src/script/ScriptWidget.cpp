@@ -285,3 +285,8 @@ void ScriptWidget::onTokenChanged(TokensWidget* row)
     recordEdit(tr("Edit operand of line %1").arg(row->getLine() + 1), OPERAND_MERGE_ID,
                row->getLine() * 4 + int(row->getlineType()));
 }
+
+QList<QWidget*> ScriptWidget::fileControls() const
+{
+    return {ui->buttonSave};
+}

@@ -36,6 +36,7 @@ public:
 
 protected:
     void showDocument() override;
+    QList<QWidget*> fileControls() const override;
 
 private slots:
     void on_buttonNewIF_pressed();
