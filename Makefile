@@ -117,7 +117,8 @@ fuzz-smoke:
 	    scratch=$$(mktemp -d); \
 	    echo "== fuzz-smoke $$kind"; \
 	    $$bin $(FUZZ_OPTIONS) -max_total_time=10 -artifact_prefix=$$scratch/ $$scratch $(FUZZ_DIR)/fuzz/seeds/$$kind \
-	        > $$scratch/log 2>&1 || { failed="$$failed $$kind"; cat $$scratch/log; }; \
+	        > $$scratch/log 2>&1 || { failed="$$failed $$kind"; cat $$scratch/log; \
+	        mkdir -p $(FUZZ_DIR)/findings; cp $$scratch/crash-* $$scratch/timeout-* $$scratch/oom-* $(FUZZ_DIR)/findings/ 2>/dev/null; }; \
 	    grep -E "^#[0-9]+[[:space:]]+DONE" $$scratch/log; \
 	    rm -rf $$scratch; \
 	done; \

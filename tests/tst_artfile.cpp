@@ -466,6 +466,9 @@ private slots:
         ArtBytes marks = directions(0, 1);
         marks.marks[3] = 1; // four palettes claimed, two present
         QTest::newRow("palette marks") << marks.bytes() << false;
+        ArtBytes noFrames = directions(0, 1);
+        noFrames.frameCountWord = 0;
+        QTest::newRow("no frame at all") << noFrames.bytes() << false;
     }
 
     void damagedHeadersAreRefusedWithoutHugeAllocations()

@@ -173,6 +173,10 @@ bool Artfile::readFrameHeaders(const QByteArray& bytes, qsizetype& pos)
     const bool directions = artTypeRead == 0 || artTypeRead == 2;
     const quint64 imageTotal = directions ? DIRECTIONS : headerWord(FRAME_COUNT);
     const quint64 framesEach = directions ? headerWord(FRAME_COUNT) : 1;
+    // A sprite without a frame has nothing to show and nothing a save could write back.
+    if (imageTotal * framesEach == 0)
+        return fail(FRAME_COUNT,
+                    QStringLiteral("the header counts %1 images of %2 frames: no frame to show").arg(imageTotal).arg(framesEach));
     // Checked before anything is allocated: the counts come straight from the file.
     if (quint64(bytes.size() - pos) < imageTotal * framesEach * FRAME_HEADER_SIZE)
         return fail(pos, QStringLiteral("%1 images of %2 frames need %3 bytes of frame headers, %4 are left")
