@@ -464,6 +464,22 @@ private slots:
                  colours[3].toRgb());
     }
 
+    // Entry 0 is not drawn by the game: the editor shows the checkerboard there, in the cell and the picture.
+    void paletteEditorShowsEntryZeroAsTransparent()
+    {
+        Artfile::Palette colours;
+        fillPalette(colours, 2);
+        colours[0] = Artfile::Colour::fromArgb(qRgb(255, 0, 0));
+        DialogEditPalette dialog;
+        dialog.setImage(plainFrame(QSize(2, 1), 0), colours);
+        dialog.show();
+        const QImage shown = child<QLabel>(dialog, "view")->pixmap().toImage();
+        QVERIFY(!shown.isNull());
+        QVERIFY(shown.pixel(0, 0) == qRgb(255, 255, 255) || shown.pixel(0, 0) == qRgb(0xcc, 0xcc, 0xcc));
+        QVERIFY(!child<QTableWidget>(dialog, "tablePalette")->item(0, 0)->background().textureImage().isNull());
+        QVERIFY(child<QTableWidget>(dialog, "tablePalette")->item(0, 1)->background().textureImage().isNull());
+    }
+
     void pastedPaletteKeepsFourthBytesAndFillsBlack()
     {
         Artfile::Palette colours;

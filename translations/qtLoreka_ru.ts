@@ -364,10 +364,6 @@
         <translation>Палитры Arcanum .art (*.aap)</translation>
     </message>
     <message>
-        <source>Index %1: red %2, green %3, blue %4</source>
-        <translation>Индекс %1: красный %2, зелёный %3, синий %4</translation>
-    </message>
-    <message>
         <source>No frame to show</source>
         <translation>Нет кадра для показа</translation>
     </message>
@@ -394,6 +390,14 @@
     <message>
         <source>Could not open %1: %2</source>
         <translation>Не удалось открыть %1: %2</translation>
+    </message>
+    <message>
+        <source>Index %1: red %2, green %3, blue %4%5</source>
+        <translation>Индекс %1: красный %2, зелёный %3, синий %4%5</translation>
+    </message>
+    <message>
+        <source> (not drawn: the game leaves it transparent)</source>
+        <translation> (не рисуется: игра оставляет его прозрачным)</translation>
     </message>
 </context>
 <context>

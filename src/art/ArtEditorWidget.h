@@ -18,6 +18,8 @@ class ArtEditorWidget : public QWidget
     Q_OBJECT
 
 public:
+    // The picture as the game shows it: entry 0 (and its colour) over a checkerboard.
+    static QImage withTransparency(const QImage& indexed);
     static constexpr int MAX_ZOOM = 8;
 
     explicit ArtEditorWidget(QWidget* parent = nullptr);
@@ -50,7 +52,6 @@ protected:
 
 private:
     void showPicture();
-    static QImage withTransparency(const QImage& indexed);
     void showText(const QString& text);
     void fillValues();
     void setControlsEnabled(bool enabled);

@@ -1,5 +1,7 @@
 #include "DialogEditPalette.h"
 
+#include "ArtEditorWidget.h"
+
 #include "Prompt.h"
 #include "PaletteFile.h"
 #include "gui.h"
@@ -67,6 +69,15 @@ void DialogEditPalette::fillTable()
         setCell(index);
 }
 
+// Entry 0 is never drawn by the game; its cell shows the same checkerboard as the picture's holes.
+QBrush DialogEditPalette::transparentCell()
+{
+    QImage blank(1, 1, QImage::Format_Indexed8);
+    blank.setColorTable({qRgb(0, 0, 0)});
+    blank.fill(0);
+    return QBrush(ArtEditorWidget::withTransparency(blank.scaled(16, 16)));
+}
+
 void DialogEditPalette::setCell(int index)
 {
     QTableWidgetItem* item = ui->tablePalette->item(index / SIDE, index % SIDE);
@@ -75,12 +86,13 @@ void DialogEditPalette::setCell(int index)
         ui->tablePalette->setItem(index / SIDE, index % SIDE, item);
     }
     const QColor colour(colours[index].toRgb());
-    item->setBackground(colour);
-    item->setToolTip(tr("Index %1: red %2, green %3, blue %4")
+    item->setBackground(index == 0 ? transparentCell() : QBrush(colour));
+    item->setToolTip(tr("Index %1: red %2, green %3, blue %4%5")
                          .arg(index)
                          .arg(colour.red())
                          .arg(colour.green())
-                         .arg(colour.blue()));
+                         .arg(colour.blue())
+                         .arg(index == 0 ? tr(" (not drawn: the game leaves it transparent)") : QString()));
 }
 
 void DialogEditPalette::updatePalette()
@@ -102,7 +114,7 @@ void DialogEditPalette::updateView()
     // Small sprites are blown up by whole factors so single pixels stay sharp.
     const QSize room = ui->scrollArea->viewport()->size();
     const int factor = std::clamp(std::min(room.width() / preview.width(), room.height() / preview.height()), 1, 8);
-    ui->view->setPixmap(QPixmap::fromImage(preview.scaled(preview.size() * factor)));
+    ui->view->setPixmap(QPixmap::fromImage(ArtEditorWidget::withTransparency(preview.scaled(preview.size() * factor))));
 }
 
 void DialogEditPalette::updateControls()

@@ -2,6 +2,7 @@
 
 #include "Artfile.h"
 
+#include <QBrush>
 #include <QDialog>
 #include <QImage>
 
@@ -47,6 +48,7 @@ protected:
 
 private:
     void fillTable();
+    static QBrush transparentCell();
     void setCell(int index);
     void fitCells();
     void takeWorkingColours();
