@@ -91,6 +91,12 @@ const QHash<QString, Plant>& plants()
         {"short palette", [](const QString& g) { truncateBy(g + "/data/art/sample_frost.aap", 24); }},
         {"truncated script", [](const QString& g) { truncateBy(g + "/data/scr/00002night_watch.scr", 10); }},
         {"unknown condition", [](const QString& g) { writeAt(g + "/data/scr/00001gate_guard.scr", 64, 99); }},
+        {"negative line count", [](const QString& g) { writeAt(g + "/data/scr/00001gate_guard.scr", 52, 0xFFFFFFFF); }},
+        {"bytes after the last line",
+         [](const QString& g) {
+             const QString script = g + "/data/scr/00001gate_guard.scr";
+             FormatChecks::writeFile(script, FormatChecks::readFile(script) + QByteArray(10, 'x'));
+         }},
         {"invalid mes entry",
          [](const QString& g) { FormatChecks::writeFile(g + "/data/mes/bad.mes", "{1}{ok}\r\n{2}{broken\r\n{3}{x}\r\n"); }},
         {"response to nowhere",
@@ -208,6 +214,12 @@ private slots:
         QTest::newRow("unknown condition")
             << "unknown condition"
             << "data/scr/00001gate_guard.scr:offset 0x40: error: line 0: condition code 99 is not in the catalogue";
+        QTest::newRow("negative line count")
+            << "negative line count" << "data/scr/00001gate_guard.scr:offset 0x34: error: the header counts -1 lines";
+        QTest::newRow("bytes after the last line")
+            << "bytes after the last line"
+            << "data/scr/00001gate_guard.scr:offset 0x[0-9a-f]+: error: the header counts \\d+ lines \\(\\d+ bytes\\), "
+               "but the file is \\d+ bytes long: 10 bytes after the last line";
         QTest::newRow("truncated script") << "truncated script"
                                           << "data/scr/00002night_watch.scr:offset 0x[0-9a-f]+: error: the header "
                                              "counts \\d+ lines \\(\\d+ bytes\\), but the file is \\d+ bytes long "

@@ -302,21 +302,31 @@ private slots:
     {
         QTest::addColumn<qint32>("lineCount");
         QTest::addColumn<int>("linesFound");
-        QTest::newRow("negative") << qint32(-5) << 0;
-        QTest::newRow("huge") << qint32(INT_MAX) << int(Script::MaxMissingLines);
-        QTest::newRow("few missing") << qint32(40) << 40;
+        QTest::addColumn<qint32>("countKept");
+        QTest::newRow("negative") << qint32(-5) << 0 << qint32(-5);
+        QTest::newRow("minus one") << qint32(-1) << 0 << qint32(-1);
+        QTest::newRow("huge") << qint32(INT_MAX) << int(Script::MaxMissingLines) << qint32(Script::MaxMissingLines);
+        QTest::newRow("few missing") << qint32(40) << 40 << qint32(40);
     }
 
     void damagedLineCount()
     {
         QFETCH(qint32, lineCount);
         QFETCH(int, linesFound);
+        QFETCH(qint32, countKept);
         QByteArray file = headerBytes(lineCount, 0) + lineBytes(1, 2, 3, 1);
         Script script;
         QVERIFY(script.load(put(file)));
         QCOMPARE(script.lineTotal(), linesFound);
-        QCOMPARE(script.getHeader().lineCount, linesFound);
-        QCOMPARE(saved(script).size(), 64 + 132 * linesFound);
+        QCOMPARE(script.getHeader().lineCount, countKept);
+        const QByteArray back = saved(script);
+        QCOMPARE(back.size(), 64 + 132 * linesFound);
+        if (lineCount < 0)
+            QCOMPARE(back, headerBytes(lineCount, 0));
+        // A line added to a file whose count was negative is counted and written.
+        QVERIFY(script.addAction(4));
+        QCOMPARE(script.getHeader().lineCount, qint32(linesFound + 1));
+        QCOMPARE(saved(script).size(), 64 + 132 * (linesFound + 1));
     }
 
     void everyPrefixLoads()

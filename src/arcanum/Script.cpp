@@ -138,8 +138,10 @@ void Script::readLines(const QByteArray& bytes)
         readStatement(in, line.elseAction);
         lines.push_back(line);
     }
-    // Only a damaged count changes here; saving then writes the lines that were shown.
-    header.lineCount = count;
+    // Only a damaged count changes here; saving then writes the lines that were shown. A negative count
+    // holds no line and is written back as read.
+    if (header.lineCount > 0)
+        header.lineCount = count;
 }
 
 QByteArray Script::toBytes() const
@@ -277,7 +279,7 @@ bool Script::addAction(Opcode code)
 void Script::appendLine(const Line& line)
 {
     lines.push_back(line);
-    header.lineCount = saturatedIncrement(header.lineCount);
+    header.lineCount = header.lineCount < 0 ? qint32(lines.size()) : saturatedIncrement(header.lineCount);
     if (header.lineCount >= header.lineBound)
         header.lineBound = saturatedIncrement(header.lineCount);
 }

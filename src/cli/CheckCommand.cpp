@@ -169,14 +169,29 @@ void CheckCommand::checkScript(const QString& path)
         checkScriptLine(path, script, i);
 }
 
+// Where a script's header keeps its line count.
+constexpr quint64 LINE_COUNT_OFFSET = 52;
+
 // The model makes up the lines a short file lacks, so the length is compared with what the header claims.
 void CheckCommand::checkScriptLength(const QString& path)
 {
     Script claimed;
     std::ifstream head(QFile::encodeName(path).toStdString(), std::ios::binary);
     claimed.loadHeader(head);
-    const qint64 count = qMax(claimed.getHeader().lineCount, 0);
+    const qint32 claimedCount = claimed.getHeader().lineCount;
+    const qint64 count = qMax(claimedCount, 0);
     const qint64 size = QFileInfo(path).size();
+    const qint64 lineEnd = Script::HeaderSize + count * Script::LineSize;
+    if (size >= Script::HeaderSize && claimedCount < 0)
+        report.errorAt(path, LINE_COUNT_OFFSET, QStringLiteral("the header counts %1 lines").arg(claimedCount));
+    else if (size > lineEnd)
+        report.errorAt(path, quint64(lineEnd),
+                       QStringLiteral("the header counts %1 lines (%2 bytes), but the file is %3 bytes long: %4 bytes "
+                                      "after the last line")
+                           .arg(count)
+                           .arg(lineEnd)
+                           .arg(size)
+                           .arg(size - lineEnd));
     if (size < Script::HeaderSize)
         report.errorAt(path, quint64(size), QStringLiteral("the file ends inside the %1-byte header").arg(Script::HeaderSize));
     else if (size < Script::HeaderSize + count * Script::LineSize)
