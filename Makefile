@@ -15,7 +15,7 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 SAMPLE_GAME := examples/sample-game
 
-.PHONY: run test deps release screenshots samples clean bench fuzz fuzz-deps fuzz-build fuzz-smoke
+.PHONY: run test deps release screenshots samples clean bench fuzz fuzz-deps fuzz-build fuzz-smoke install package
 
 run: release
 	cd $(SAMPLE_GAME) && ../../$(RELEASE_DIR)/src/qtLoreka
@@ -61,6 +61,22 @@ deps:
 
 clean:
 	rm -rf build
+
+# `make install PREFIX=/opt/qtloreka` (and DESTDIR=… for a staging root) installs the release build.
+PREFIX ?= /usr/local
+install: release
+	DESTDIR=$(DESTDIR) cmake --install $(RELEASE_DIR) --prefix $(PREFIX) --strip
+
+# A Debian package of both programs, then checked as a user would meet it (see tools/package-check).
+PACKAGE_DIR := build/package
+VERSION := $(shell grep -oP 'qtLoreka VERSION \K[0-9.]+' CMakeLists.txt)
+package: deps
+	@$(MAKE) --no-print-directory deps PACKAGES="dpkg-dev file lintian desktop-file-utils appstream man-db"
+	cmake -S . -B $(PACKAGE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLOREKA_BUILD_TESTS=OFF -DCMAKE_INSTALL_PREFIX=/usr
+	cmake --build $(PACKAGE_DIR) --target update_translations
+	cmake --build $(PACKAGE_DIR) -j $(JOBS)
+	cd $(PACKAGE_DIR) && cpack -G DEB
+	tools/package-check $(PACKAGE_DIR)/qtloreka_$(VERSION)_amd64.deb $(SAMPLE_GAME)
 
 # Speed of the format models and the message page on large generated inputs (Release, no sanitizers).
 # Every figure is printed with its ratio to memcpy over as many bytes and its target; timings are the
