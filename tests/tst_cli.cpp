@@ -340,7 +340,7 @@ private slots:
 
     void roundtripSampleBinariesAreIdentical()
     {
-        const QStringList files = sampleFiles({"*.scr", "*.art", "*.pro"});
+        const QStringList files = sampleFiles({"*.scr", "*.art", "*.aap", "*.pro"});
         QVERIFY(files.size() >= 10);
         const Run run = loreka(QStringList{"roundtrip"} + files);
         QCOMPARE(run.code, 0);
@@ -357,8 +357,41 @@ private slots:
         const Run run = loreka({"roundtrip", game + "/data/proto/wall_stone.pro", unix});
         QCOMPARE(run.code, 1);
         QCOMPARE(run.lines(), QStringList({game + "/data/proto/wall_stone.pro: identical",
-                                           unix + ": differs at offset 0x6 (14 bytes read, 16 written)"}));
+                                           unix + ": differs at offset 0x6 (14 bytes read, 16 written)",
+                                           "  line 1 (line ends only: the format writes Windows line ends)",
+                                           "  read:    {1}{a}", "  written: {1}{a}"}));
         QCOMPARE(loreka({"roundtrip", scratch.filePath("missing.pro")}).code, 2);
+    }
+
+    // A text file that changes says which line and whether only the format's own layout changed.
+    void roundtripNamesTheRewrite_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QStringList>("report");
+        QTest::newRow("PC line without its tab")
+            << "flat.dlg" << QByteArray("{1}{Hi}{}{}{}{}{}\r\n{2}{Yes}{}{1}{}{0}{}\r\n")
+            << QStringList({"  line 2 (layout only: the format writes its own indentation (a PC line starts with a tab), "
+                            "blank lines and line ends)",
+                            "  read:    {2}{Yes}{}{1}{}{0}{}", "  written: \t{2}{Yes}{}{1}{}{0}{}"});
+        QTest::newRow("bytes not in UTF-8")
+            << "cp1251.mes" << QByteArray("{1}{\xcf\xf0\xe8}\r\n")
+            << QStringList({"  line 1 (content changed)",
+                            "  the file does not read cleanly in UTF-8 (3 invalid characters): its bytes were replaced; "
+                            "pick its encoding with --encoding (windows-1251 for Russian texts)",
+                            "  read:    {1}{\ufffd\ufffd\ufffd}", "  written: {1}{\ufffd\ufffd\ufffd}"});
+    }
+
+    void roundtripNamesTheRewrite()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QStringList, report);
+        const QString path = scratch.filePath(name);
+        QVERIFY(FormatChecks::writeFile(path, bytes));
+        const Run run = loreka({"roundtrip", path});
+        QCOMPARE(run.code, 1);
+        QCOMPARE(run.lines().mid(1), report);
     }
 
     void exportWritesEveryFrame_data()

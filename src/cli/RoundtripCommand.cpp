@@ -2,21 +2,36 @@
 
 #include "CommandLine.h"
 
-#include "Artfile.h"
-#include "DialogueFileNew.h"
-#include "Mesfile.h"
-#include "Proto.h"
-#include "Script.h"
+#include "FileFormat.h"
+#include "FormatRegistry.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
+#include <QTextCodec>
 #include <QTextStream>
 
 #include <algorithm>
 
-using namespace arcanum;
+using arcanum::FileFormat;
+using arcanum::FormatRegistry;
+
+namespace {
+
+// The line of bytes that holds offset at, without its line end.
+QByteArray lineAt(const QByteArray& bytes, qint64 at, int& number)
+{
+    const qsizetype offset = std::min<qsizetype>(at, bytes.size());
+    const qsizetype start = offset == 0 ? 0 : bytes.lastIndexOf('\n', offset - 1) + 1;
+    qsizetype end = bytes.indexOf('\n', offset);
+    if (end < 0)
+        end = bytes.size();
+    number = int(bytes.left(start).count('\n')) + 1;
+    QByteArray line = bytes.mid(start, end - start);
+    if (line.endsWith('\r'))
+        line.chop(1);
+    return line;
+}
+
+} // namespace
 
 RoundtripCommand::RoundtripCommand(QTextCodec* mesCodec)
     : codec(mesCodec)
@@ -26,62 +41,88 @@ RoundtripCommand::RoundtripCommand(QTextCodec* mesCodec)
 int RoundtripCommand::run(const QStringList& paths)
 {
     QTextStream out(stdout);
-    QTemporaryDir temporary;
     int status = CommandLine::Clean;
-    for (const QString& path : paths) {
-        QFile original(path);
-        // The copy keeps the name: a script's number is read from it.
-        const QString copy = QDir(temporary.path()).filePath(QFileInfo(path).fileName());
-        if (!temporary.isValid() || !original.open(QIODevice::ReadOnly) || !saveCopy(path, copy)) {
-            out << path << ": error: cannot be loaded and saved" << Qt::endl;
-            status = CommandLine::Failure;
-            continue;
-        }
-        const QByteArray before = original.readAll();
-        QFile saved(copy);
-        const QByteArray after = saved.open(QIODevice::ReadOnly) ? saved.readAll() : QByteArray();
-        const qint64 at = firstDifference(before, after);
-        if (at < 0) {
-            out << path << ": identical" << Qt::endl;
-            continue;
-        }
-        out << path << QStringLiteral(": differs at offset 0x%1 (%2 bytes read, %3 written)")
-                           .arg(at, 0, 16).arg(before.size()).arg(after.size())
-            << Qt::endl;
-        status = std::max(status, CommandLine::Problems);
-    }
+    for (const QString& path : paths)
+        status = std::max(status, roundTrip(path, out));
     return status;
 }
 
-bool RoundtripCommand::saveCopy(const QString& path, const QString& copy)
+int RoundtripCommand::roundTrip(const QString& path, QTextStream& out) const
 {
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    const std::string from = QFile::encodeName(path).toStdString();
-    if (suffix == QLatin1String("mes")) {
-        Mesfile mes(path);
-        return mes.load(codec) && mes.save(copy, codec);
+    const FileFormat* format = FormatRegistry::byPath(path);
+    if (!format || !format->rewrite) {
+        out << path << ": error: not a file loreka round-trips (.mes, .dlg, .scr, .art, .aap, .pro)" << Qt::endl;
+        return CommandLine::Failure;
     }
-    if (suffix == QLatin1String("dlg")) {
-        QFile file(path);
-        DialogueFileNew dialogue(&file);
-        QFile target(copy);
-        return dialogue.load() && dialogue.save(&target);
+    QFile original(path);
+    if (!original.open(QIODevice::ReadOnly)) {
+        out << path << ": error: cannot be read: " << original.errorString() << Qt::endl;
+        return CommandLine::Failure;
     }
-    if (suffix == QLatin1String("scr")) {
-        Script script;
-        return script.load(path) && script.save(copy);
+    const QByteArray before = original.readAll();
+    QByteArray after;
+    QString error;
+    if (!format->rewrite(path, before, codec, after, error)) {
+        out << path << ": error: cannot be loaded and saved: " << error << Qt::endl;
+        return CommandLine::Failure;
     }
-    if (suffix == QLatin1String("art")) {
-        Artfile art;
-        art.load(from);
-        return art.isLoaded() && art.save(copy);
+    const qint64 at = firstDifference(before, after);
+    if (at < 0) {
+        out << path << ": identical" << Qt::endl;
+        return CommandLine::Clean;
     }
-    if (suffix == QLatin1String("pro")) {
-        Proto proto;
-        proto.load(from);
-        return proto.isLoaded() && proto.save(QFile::encodeName(copy).toStdString());
-    }
-    return false;
+    out << path << QStringLiteral(": differs at offset 0x%1 (%2 bytes read, %3 written)")
+                       .arg(at, 0, 16).arg(before.size()).arg(after.size())
+        << Qt::endl;
+    if (format->text)
+        showLine(*format, before, after, at, out);
+    return CommandLine::Problems;
+}
+
+void RoundtripCommand::showLine(const FileFormat& format, const QByteArray& before, const QByteArray& after,
+                                qint64 at, QTextStream& out) const
+{
+    // Dialogue files are read in the game's code page whatever --encoding says for message files.
+    QTextCodec* shown = format.kind == FileFormat::Kind::Dialogue ? QTextCodec::codecForName("windows-1251")
+                                                                  : codec ? codec : QTextCodec::codecForName("UTF-8");
+    int number = 0;
+    int ignored = 0;
+    const QByteArray read = lineAt(before, at, number);
+    const QByteArray written = lineAt(after, at, ignored);
+    out << QStringLiteral("  line %1 (%2)").arg(number).arg(rewriteKind(before.mid(at), after.mid(at))) << Qt::endl;
+    QTextCodec::ConverterState check;
+    shown->toUnicode(before.constData(), int(before.size()), &check);
+    if (check.invalidChars > 0)
+        out << QStringLiteral("  the file does not read cleanly in %1 (%2 invalid characters): its bytes were "
+                              "replaced; pick its encoding with --encoding (windows-1251 for Russian texts)")
+                   .arg(QString::fromLatin1(shown->name()))
+                   .arg(check.invalidChars)
+            << Qt::endl;
+    out << "  read:    " << shown->toUnicode(read) << Qt::endl;
+    out << "  written: " << shown->toUnicode(written) << Qt::endl;
+}
+
+// What the format always does to a file, told apart from a change of content: the rest of the file
+// compared with line ends and the blanks that start a line left out.
+QString RoundtripCommand::rewriteKind(const QByteArray& before, const QByteArray& after)
+{
+    const auto normalized = [](QByteArray bytes, bool blanks) {
+        bytes.replace("\r\n", "\n");
+        if (!blanks)
+            return bytes;
+        QByteArray out;
+        for (const QByteArray& line : bytes.split('\n')) {
+            if (!line.trimmed().isEmpty())
+                out += line.trimmed() + '\n';
+        }
+        return out;
+    };
+    if (normalized(before, false) == normalized(after, false))
+        return QStringLiteral("line ends only: the format writes Windows line ends");
+    if (normalized(before, true) == normalized(after, true))
+        return QStringLiteral("layout only: the format writes its own indentation (a PC line starts with a tab), "
+                              "blank lines and line ends");
+    return QStringLiteral("content changed");
 }
 
 // -1 when both are the same; else the first offset where they differ or one of them ends.

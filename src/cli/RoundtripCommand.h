@@ -5,9 +5,15 @@
 #include <QStringList>
 
 class QTextCodec;
+class QTextStream;
 
-// `loreka roundtrip FILE...`: loads each file with its model, saves it to a temporary folder and
-// compares the bytes with the original.
+namespace arcanum {
+struct FileFormat;
+}
+
+// `loreka roundtrip FILE...`: reads each file as the editor does, writes what a save would write (in
+// memory) and compares the bytes with the original. For a text file that changes it also shows the
+// first differing line before and after, naming what kind of rewrite it is.
 class RoundtripCommand
 {
 public:
@@ -15,9 +21,11 @@ public:
     int run(const QStringList& paths);
 
 private:
-    // False when the model could not read or write the file.
-    bool saveCopy(const QString& path, const QString& copy);
+    int roundTrip(const QString& path, QTextStream& out) const;
+    void showLine(const arcanum::FileFormat& format, const QByteArray& before, const QByteArray& after, qint64 at,
+                  QTextStream& out) const;
     static qint64 firstDifference(const QByteArray& a, const QByteArray& b);
+    static QString rewriteKind(const QByteArray& before, const QByteArray& after);
 
     QTextCodec* codec;
 };
