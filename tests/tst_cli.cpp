@@ -167,6 +167,8 @@ private slots:
         QTest::newRow("no data folder") << QStringList{"check", "/nonexistent"} << 2 << QString();
         QTest::newRow("dump missing file") << QStringList{"dump", "missing.mes"} << 2 << QString();
         QTest::newRow("export bad format") << QStringList{"export", "x.art", "out", "--format", "gif"} << 2 << QString();
+        QTest::newRow("export of a message file")
+            << QStringList{"export", "x.mes", "out"} << 2 << QStringLiteral("x.mes: error: not an art file");
     }
 
     void usage()
@@ -176,7 +178,7 @@ private slots:
         QFETCH(QString, output);
         const Run run = loreka(arguments);
         QCOMPARE(run.code, code);
-        QVERIFY2(run.out.contains(output), qPrintable(run.out));
+        QVERIFY2((run.out + run.err).contains(output), qPrintable(run.out + run.err));
         if (code == 2)
             QVERIFY(!(run.err + run.out).isEmpty()); // says why
     }

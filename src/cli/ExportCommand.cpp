@@ -4,6 +4,8 @@
 #include "FileDump.h"
 
 #include "Artfile.h"
+#include "FileFormat.h"
+#include "FormatRegistry.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,6 +32,11 @@ int ExportCommand::run(const QString& artPath, const QString& targetDir)
     QTextStream err(stderr);
     if (!FORMATS.contains(format)) {
         err << "loreka: --format takes png, bmp, jpg or tiff" << Qt::endl;
+        return CommandLine::Failure;
+    }
+    const arcanum::FileFormat* kind = arcanum::FormatRegistry::byPath(artPath);
+    if (!kind || kind->kind != arcanum::FileFormat::Kind::Art) {
+        err << artPath << ": error: not an art file (export writes the frames of an .art file)" << Qt::endl;
         return CommandLine::Failure;
     }
     Artfile art;
