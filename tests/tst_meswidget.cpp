@@ -72,6 +72,24 @@ private:
     void selectCell(int row, int column) { table()->setCurrentIndex(model()->index(row, column)); }
 
 private slots:
+    // The game's code pages first, then each codec once under one name, sorted.
+    void encodingListPutsTheGamesCodePagesFirst()
+    {
+        const QStringList names = MesWidget::encodingList();
+        QCOMPARE(names.mid(0, 4), QStringList({"windows-1251", "windows-1252", "windows-1250", "UTF-8"}));
+        QSet<QByteArray> codecs;
+        for (const QString& name : names) {
+            const QByteArray codec = QTextCodec::codecForName(name.toLatin1())->name();
+            QVERIFY2(!codecs.contains(codec), qPrintable(name));
+            codecs.insert(codec);
+        }
+        QVERIFY(names.contains(QStringLiteral("KOI8-R")));
+        const QStringList rest = names.mid(7);
+        QVERIFY(std::is_sorted(rest.begin(), rest.end(), [](const QString& a, const QString& b) {
+            return QString::compare(a, b, Qt::CaseInsensitive) < 0;
+        }));
+    }
+
     void initTestCase() { QVERIFY(dir.isValid()); }
     void init() { page = std::make_unique<MesWidget>(); }
     void cleanup() { page.reset(); }

@@ -73,11 +73,24 @@ MesDocument* MesWidget::mesDocument() const
 
 const QStringList& MesWidget::encodingList()
 {
+    // The game's own code pages first, then every other codec once, by its canonical name (Qt lists
+    // each codec under all of its aliases).
     static const QStringList names = [] {
-        QStringList list;
-        for (const QByteArray& name : QTextCodec::availableCodecs())
-            list << QString::fromLatin1(name);
-        return list;
+        QStringList first;
+        for (const char* common : {"windows-1251", "windows-1252", "windows-1250", "UTF-8", "EUC-KR", "GBK", "Shift_JIS"})
+            if (const QTextCodec* codec = QTextCodec::codecForName(common))
+                first << QString::fromLatin1(codec->name());
+        QStringList rest;
+        for (int mib : QTextCodec::availableMibs()) {
+            const QString name = QString::fromLatin1(QTextCodec::codecForMib(mib)->name());
+            if (!first.contains(name, Qt::CaseInsensitive) && !rest.contains(name, Qt::CaseInsensitive))
+                rest << name;
+        }
+        std::sort(rest.begin(), rest.end(), [](const QString& a, const QString& b) {
+            return QString::compare(a, b, Qt::CaseInsensitive) < 0;
+        });
+        first.removeDuplicates();
+        return first + rest;
     }();
     return names;
 }
