@@ -34,6 +34,8 @@
 #include <QUndoStack>
 #include <QtTest>
 
+#include <functional>
+
 namespace {
 
 const QString ITEMS = QStringLiteral("/data/mes/sample_items.mes");
@@ -92,6 +94,27 @@ void openItems(MainWindow& window, const ScratchGame& game)
     window.openFiles({game.path(ITEMS)});
     QVERIFY(window.mesPage()->document());
     QCOMPARE(window.mesPage()->document()->path(), game.path(ITEMS));
+}
+
+// A file of every page's kind, so that each page shows a document.
+void openOneOfEachKind(MainWindow& window, const ScratchGame& game)
+{
+    window.openFiles({game.path(QStringLiteral("/data/scr/00001gate_guard.scr")), game.path(ITEMS),
+                      game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg")),
+                      game.path(QStringLiteral("/data/art/sample_beetle.art")),
+                      game.path(QStringLiteral("/data/proto/weapon_sword.pro"))});
+}
+
+// Shows each tab in turn and hands every widget on it to visit, with the tab's title.
+void forEveryControl(MainWindow& window, const std::function<void(const QString&, QWidget*)>& visit)
+{
+    auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        QTest::qWait(50);
+        for (QWidget* control : tabs->widget(tab)->findChildren<QWidget*>())
+            visit(tabs->tabText(tab), control);
+    }
 }
 
 } // namespace
@@ -378,27 +401,19 @@ private slots:
         window.resize(1200, 800);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        window.openFiles({game.path(QStringLiteral("/data/scr/00001gate_guard.scr")), game.path(ITEMS),
-                          game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg")),
-                          game.path(QStringLiteral("/data/art/sample_beetle.art")),
-                          game.path(QStringLiteral("/data/proto/weapon_sword.pro"))});
-        auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+        openOneOfEachKind(window, game);
         QStringList silent;
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            tabs->setCurrentIndex(tab);
-            QTest::qWait(20);
-            for (QWidget* control : tabs->widget(tab)->findChildren<QWidget*>()) {
-                const bool asked = qobject_cast<QAbstractButton*>(control) || qobject_cast<QComboBox*>(control)
-                                   || qobject_cast<QAbstractSpinBox*>(control) || qobject_cast<QLineEdit*>(control);
-                // A spin box's own line edit, a combo box's and a table's corner are parts of their owner.
-                const bool part = qobject_cast<QAbstractSpinBox*>(control->parentWidget())
-                                  || qobject_cast<QComboBox*>(control->parentWidget())
-                                  || qobject_cast<QAbstractItemView*>(control->parentWidget());
-                if (asked && !part && control->isVisible() && control->toolTip().isEmpty())
-                    silent.append(QStringLiteral("%1: %2 %3").arg(tabs->tabText(tab), control->metaObject()->className(),
-                                                                control->objectName()));
-            }
-        }
+        forEveryControl(window, [&silent](const QString& tab, QWidget* control) {
+            const bool asked = qobject_cast<QAbstractButton*>(control) || qobject_cast<QComboBox*>(control)
+                               || qobject_cast<QAbstractSpinBox*>(control) || qobject_cast<QLineEdit*>(control);
+            // A spin box's own line edit, a combo box's and a table's corner are parts of their owner.
+            const bool part = qobject_cast<QAbstractSpinBox*>(control->parentWidget())
+                              || qobject_cast<QComboBox*>(control->parentWidget())
+                              || qobject_cast<QAbstractItemView*>(control->parentWidget());
+            if (asked && !part && control->isVisible() && control->toolTip().isEmpty())
+                silent.append(QStringLiteral("%1: %2 %3").arg(tab, control->metaObject()->className(),
+                                                            control->objectName()));
+        });
         silent.removeDuplicates();
         for (const QString& control : silent)
             qInfo("no tool tip: %s", qPrintable(control));
@@ -427,49 +442,41 @@ private slots:
         window.resize(size);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        window.openFiles({game.path(QStringLiteral("/data/scr/00001gate_guard.scr")), game.path(ITEMS),
-                          game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg")),
-                          game.path(QStringLiteral("/data/art/sample_beetle.art")),
-                          game.path(QStringLiteral("/data/proto/weapon_sword.pro"))});
+        openOneOfEachKind(window, game);
         auto* dialogue = window.findChild<DialogueEditWidget*>();
         if (dialogue && dialogueLine == 1)
             QVERIFY(dialogue->openNpcLine(1));
         if (dialogue && dialogueLine == 2)
             QVERIFY(dialogue->openPcLine(2));
-        auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
         QStringList cut;
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            tabs->setCurrentIndex(tab);
-            QTest::qWait(50);
-            for (QWidget* control : tabs->widget(tab)->findChildren<QWidget*>()) {
-                const bool checked = qobject_cast<QAbstractButton*>(control) || qobject_cast<QLabel*>(control)
-                                     || qobject_cast<QComboBox*>(control) || qobject_cast<QAbstractSpinBox*>(control);
-                if (!checked || !control->isVisible() || control->width() <= 0)
-                    continue;
-                const QRect seen = control->visibleRegion().boundingRect();
-                const bool inScrollArea = [control] {
-                    for (QWidget* up = control->parentWidget(); up; up = up->parentWidget())
-                        if (qobject_cast<QAbstractScrollArea*>(up))
-                            return true;
-                    return false;
-                }();
-                // Inside a scroll area only sideways cutting counts: scrolling down is expected.
-                const bool clipped = inScrollArea ? seen.width() < control->width() && !seen.isEmpty()
-                                                  : seen != control->rect();
-                if (clipped)
-                    cut.append(QStringLiteral("%1: %2 (%3 of %4 wide)")
-                                   .arg(tabs->tabText(tab), control->objectName().isEmpty()
-                                                                ? QString::fromLatin1(control->metaObject()->className())
-                                                                : control->objectName())
-                                   .arg(seen.width())
-                                   .arg(control->width()));
-            }
-            for (QAbstractScrollArea* area : tabs->widget(tab)->findChildren<QAbstractScrollArea*>())
-                if (area->isVisible() && area->horizontalScrollBar()->isVisible()
-                    && !qobject_cast<QAbstractItemView*>(area) && !qobject_cast<QGraphicsView*>(area)
-                    && !qobject_cast<QPlainTextEdit*>(area) && !qobject_cast<QTextEdit*>(area))
-                    cut.append(QStringLiteral("%1: %2 scrolls sideways").arg(tabs->tabText(tab), area->objectName()));
-        }
+        forEveryControl(window, [&cut](const QString& tab, QWidget* control) {
+            auto* area = qobject_cast<QAbstractScrollArea*>(control);
+            if (area && area->isVisible() && area->horizontalScrollBar()->isVisible()
+                && !qobject_cast<QAbstractItemView*>(area) && !qobject_cast<QGraphicsView*>(area)
+                && !qobject_cast<QPlainTextEdit*>(area) && !qobject_cast<QTextEdit*>(area))
+                cut.append(QStringLiteral("%1: %2 scrolls sideways").arg(tab, area->objectName()));
+            const bool checked = qobject_cast<QAbstractButton*>(control) || qobject_cast<QLabel*>(control)
+                                 || qobject_cast<QComboBox*>(control) || qobject_cast<QAbstractSpinBox*>(control);
+            if (!checked || !control->isVisible() || control->width() <= 0)
+                return;
+            const QRect seen = control->visibleRegion().boundingRect();
+            const bool inScrollArea = [control] {
+                for (QWidget* up = control->parentWidget(); up; up = up->parentWidget())
+                    if (qobject_cast<QAbstractScrollArea*>(up))
+                        return true;
+                return false;
+            }();
+            // Inside a scroll area only sideways cutting counts: scrolling down is expected.
+            const bool clipped = inScrollArea ? seen.width() < control->width() && !seen.isEmpty()
+                                              : seen != control->rect();
+            if (clipped)
+                cut.append(QStringLiteral("%1: %2 (%3 of %4 wide)")
+                               .arg(tab, control->objectName().isEmpty()
+                                                            ? QString::fromLatin1(control->metaObject()->className())
+                                                            : control->objectName())
+                               .arg(seen.width())
+                               .arg(control->width()));
+        });
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
     }
 
