@@ -93,43 +93,6 @@ void writeJson(const QString& path, const QJsonObject& object)
     QVERIFY(FormatChecks::writeFile(path, QJsonDocument(object).toJson()));
 }
 
-quint32 crc32(const QByteArray& bytes)
-{
-    quint32 crc = 0xFFFFFFFFu;
-    for (char byte : bytes) {
-        crc ^= quint8(byte);
-        for (int k = 0; k < 8; ++k)
-            crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
-    }
-    return ~crc;
-}
-
-void appendChunk(QByteArray& png, const char* type, const QByteArray& data)
-{
-    char length[4];
-    qToBigEndian(quint32(data.size()), length);
-    png.append(length, 4);
-    const QByteArray body = QByteArray(type) + data;
-    png.append(body);
-    char crc[4];
-    qToBigEndian(crc32(body), crc);
-    png.append(crc, 4);
-}
-
-// Only the header of a PNG of that size: enough for a reader to learn how large it claims to be.
-QByteArray pngHeaderOnly(quint32 width, quint32 height)
-{
-    QByteArray png("\x89PNG\r\n\x1a\n", 8);
-    QByteArray ihdr(13, '\0');
-    qToBigEndian(width, ihdr.data());
-    qToBigEndian(height, ihdr.data() + 4);
-    ihdr[8] = 8; // bit depth; colour type 0: grey
-    appendChunk(png, "IHDR", ihdr);
-    appendChunk(png, "IDAT", QByteArray());
-    appendChunk(png, "IEND", QByteArray());
-    return png;
-}
-
 QImage shadedBall(int side, int hue)
 {
     QImage image(side, side, QImage::Format_ARGB32);
@@ -322,7 +285,7 @@ private slots:
         else if (damage == QLatin1String("copy sprite.json"))
             QVERIFY(QFile::copy(jsonPath, QDir(dir).filePath(QStringLiteral("other.json"))));
         else if (damage == QLatin1String("huge"))
-            QVERIFY(FormatChecks::writeFile(QDir(dir).filePath(QStringLiteral("sprite_i0_f0.png")), pngHeaderOnly(70000, 3)));
+            QVERIFY(FormatChecks::writeFile(QDir(dir).filePath(QStringLiteral("sprite_i0_f0.png")), FormatChecks::pngHeaderOnly(70000, 3)));
         else {
             if (damage == QLatin1String("frames word 5")) {
                 QByteArray header = QByteArray::fromBase64(json.value("header").toString().toLatin1());
@@ -468,7 +431,7 @@ private slots:
     void imageFilesTooLargeForAFrameAreRefused()
     {
         const QString path = scratch.filePath(QStringLiteral("wide.png"));
-        QVERIFY(FormatChecks::writeFile(path, pngHeaderOnly(70000, 3)));
+        QVERIFY(FormatChecks::writeFile(path, FormatChecks::pngHeaderOnly(70000, 3)));
         QImage image;
         QString error;
         QVERIFY(!ArtImageFile::read(path, image, error));
