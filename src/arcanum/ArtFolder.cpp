@@ -22,6 +22,9 @@ const QString KIND = QStringLiteral("loreka art folder");
 constexpr int VERSION = 1;
 const QString RAW = QStringLiteral("raw");
 const QString RUN_LENGTH = QStringLiteral("run-length");
+// The description of 8 directions × 64 run-length frames of 256 × 256 is under 30 MB; one many times
+// larger is not an export of ours, and reading it whole could take all memory.
+constexpr qint64 MAX_DESCRIPTION_BYTES = qint64(512) << 20;
 
 QString base64(const QByteArray& bytes)
 {
@@ -291,6 +294,11 @@ private:
         QFile file(jsonPath);
         if (!file.open(QIODevice::ReadOnly)) {
             error = QStringLiteral("%1: cannot be opened").arg(jsonPath);
+            return false;
+        }
+        if (file.size() > MAX_DESCRIPTION_BYTES) {
+            error = QStringLiteral("%1: %2 bytes is larger than any art description (%3 at most)")
+                        .arg(jsonPath).arg(file.size()).arg(MAX_DESCRIPTION_BYTES);
             return false;
         }
         QJsonParseError parse;
