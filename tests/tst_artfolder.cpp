@@ -172,6 +172,28 @@ private slots:
         QCOMPARE(back.actionFrame(), 2u);
     }
 
+    // Frames of damaged sizes have no picture: their bytes travel in the JSON, even when no frame has one.
+    void framesWithoutPicturesKeepTheirBytes()
+    {
+        QByteArray header(int(Artfile::HEADER_SIZE), '\0');
+        qToLittleEndian(quint32(1), header.data());      // images of one frame
+        qToLittleEndian(quint32(1), header.data() + 12); // one palette
+        qToLittleEndian(quint32(2), header.data() + 32); // two images
+        std::vector<std::vector<Artfile::Image>> frames(2, std::vector<Artfile::Image>(1));
+        frames[0][0].setData(70000, 2, QByteArray::fromHex("05030507"));
+        frames[1][0].setData(0, 0, QByteArray());
+        const QByteArray original = Artfile::assemble(header, {paletteBytes(0)}, frames, QByteArray());
+        QVERIFY(load(original).isLoaded());
+        for (bool sheet : {false, true}) {
+            const QString dir = exported(original, QStringLiteral("pictureless_%1").arg(sheet), {sheet, 0});
+            QCOMPARE(QDir(dir).entryList({"*.png"}, QDir::Files), QStringList());
+            Artfile back;
+            QString error;
+            QVERIFY2(ArtFolder::read(dir, back, error), qPrintable(error));
+            QCOMPARE(back.toBytes(), original);
+        }
+    }
+
     void editedFrameIsEncodedAfresh_data()
     {
         QTest::addColumn<bool>("trueColour");

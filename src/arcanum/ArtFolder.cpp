@@ -114,7 +114,7 @@ public:
             images.append(frames);
         }
         description.insert("images", images);
-        if (options.sheet) {
+        if (!sheetPixels.isEmpty()) { // no sheet when not one frame can be drawn
             const QString sheet = sheetFileName(name, options.palette, QStringLiteral("png"));
             description.insert("sheet", sheet);
             if (!ArtImageFile::writeIndexed(QDir(folder).filePath(sheet), sheetPixels, sheetSize.width(),
