@@ -288,6 +288,7 @@ private slots:
         QTest::newRow("ragged images") << "drop a frame" << "image 7 has 2 frames";
         QTest::newRow("not a description") << "kind" << "not an art description";
         QTest::newRow("placement not a number") << "left text" << "image 0 frame 0: its size and placement";
+        QTest::newRow("picture of no size") << "width" << "image 0 frame 0 has a picture but 4294967295 × 20";
         QTest::newRow("file outside the folder") << "escape" << "missing";
         QTest::newRow("no description") << "remove sprite.json" << "no art description";
         QTest::newRow("two descriptions") << "copy sprite.json" << "more than one .json";
@@ -323,11 +324,14 @@ private slots:
                 images[7] = last;
             } else if (damage == QLatin1String("kind")) {
                 json.insert("kind", "something else");
-            } else if (damage == QLatin1String("left text") || damage == QLatin1String("escape")) {
+            } else if (damage == QLatin1String("left text") || damage == QLatin1String("escape")
+                       || damage == QLatin1String("width")) {
                 QJsonArray row = images.at(0).toArray();
                 QJsonObject frame = row.at(0).toObject();
                 if (damage == QLatin1String("escape"))
                     frame.insert("file", "../../etc/passwd");
+                else if (damage == QLatin1String("width"))
+                    frame.insert("width", 4294967295.0);
                 else
                     frame.insert("left", "ten");
                 row[0] = frame;

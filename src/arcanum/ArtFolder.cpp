@@ -390,6 +390,10 @@ private:
             frame.setData(*width, *height, stored);
             return true;
         }
+        if (!ArtImageFile::fitsAFrame(*width, *height))
+            return disagree(QStringLiteral("%1 has a picture but %2 × %3 pixels is no size a picture can have")
+                                .arg(where).arg(*width).arg(*height),
+                            error);
         QByteArray pixels;
         QSize size;
         if (!framePixels(in, where, f, i, QSize(int(*width), int(*height)), pixels, size, error))
