@@ -243,6 +243,27 @@ private slots:
         QCOMPARE(back.headerBytes(), source.headerBytes());
     }
 
+    void editedFrameRateAndActionFrameReachTheHeader()
+    {
+        const QByteArray original = generatedArt();
+        const QString dir = exported(original, QStringLiteral("rate"));
+        const QString jsonPath = QDir(dir).filePath(QStringLiteral("sprite.json"));
+        QJsonObject json = readJson(jsonPath);
+        QCOMPARE(json.value("frameRate").toInt(), 15);
+        json.insert("frameRate", 24);
+        json.insert("actionFrame", 1);
+        writeJson(jsonPath, json);
+        Artfile back;
+        QString error;
+        QVERIFY2(ArtFolder::read(dir, back, error), qPrintable(error));
+        QCOMPARE(back.frameRate(), 24u);
+        QCOMPARE(back.actionFrame(), 1u);
+        QByteArray wanted = original;
+        qToLittleEndian(quint32(24), wanted.data() + 4);
+        qToLittleEndian(quint32(1), wanted.data() + 28);
+        QCOMPARE(back.toBytes(), wanted);
+    }
+
     void editedSheetCellChangesOneFrame()
     {
         const QByteArray original = generatedArt();
@@ -288,6 +309,7 @@ private slots:
         QTest::newRow("ragged images") << "drop a frame" << "image 7 has 2 frames";
         QTest::newRow("not a description") << "kind" << "not an art description";
         QTest::newRow("placement not a number") << "left text" << "image 0 frame 0: its size and placement";
+        QTest::newRow("frame rate not a number") << "frameRate" << "\"frameRate\" needs a whole number";
         QTest::newRow("picture of no size") << "width" << "image 0 frame 0 has a picture but 4294967295 × 20";
         QTest::newRow("file outside the folder") << "escape" << "missing";
         QTest::newRow("no description") << "remove sprite.json" << "no art description";
@@ -322,6 +344,8 @@ private slots:
                 QJsonArray last = images.at(7).toArray();
                 last.removeLast();
                 images[7] = last;
+            } else if (damage == QLatin1String("frameRate")) {
+                json.insert("frameRate", -3);
             } else if (damage == QLatin1String("kind")) {
                 json.insert("kind", "something else");
             } else if (damage == QLatin1String("left text") || damage == QLatin1String("escape")

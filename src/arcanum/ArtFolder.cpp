@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <algorithm>
 #include <optional>
@@ -316,6 +317,15 @@ private:
         if (header.size() != qsizetype(Artfile::HEADER_SIZE))
             return disagree(QStringLiteral("\"header\" holds %1 bytes, not %2").arg(header.size()).arg(Artfile::HEADER_SIZE),
                             error);
+        // The two header words a modder may want to change by hand; equal to the header's when untouched.
+        for (const auto& [key, offset] : {std::pair{"frameRate", 4}, std::pair{"actionFrame", 28}}) {
+            if (!description.contains(QLatin1String(key)))
+                continue;
+            const std::optional<quint32> value = word(description, key);
+            if (!value)
+                return disagree(QStringLiteral("\"%1\" needs a whole number from 0").arg(QLatin1String(key)), error);
+            qToLittleEndian(*value, header.data() + offset);
+        }
         const QJsonArray palettes = description.value("palettes").toArray();
         for (int p = 0; p < palettes.size(); ++p) {
             paletteBytes.push_back(QByteArray::fromBase64(palettes.at(p).toString().toLatin1()));
