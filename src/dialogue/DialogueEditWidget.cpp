@@ -361,6 +361,11 @@ void DialogueEditWidget::on_treePC_itemDoubleClicked(QTreeWidgetItem* item, int 
         qWarning("DialogueEditWidget::on_treePC_itemDoubleClicked(): no npc line with index %d found", response);
 }
 
+bool DialogueEditWidget::openLine(int index)
+{
+    return openNpcLine(index) || openPcLine(index);
+}
+
 bool DialogueEditWidget::openPcLine(int index)
 {
     const DialogueFileNew::PCLinePointer line = getModel() ? getModel()->getPCLine(index) : DialogueFileNew::PCLinePointer();

@@ -36,6 +36,10 @@ public:
     // Writes the open form into its line and puts both line lists in index order.
     void saveLineEditChangesToMem();
 
+    // Opens the line with that number in its form: the NPC line, or the PC response when no NPC line
+    // has it; false when the file has no line with that number. Other pages open a dialogue at a line
+    // through this.
+    bool openLine(int index);
     // Opens the line with that index in its form; false when there is none.
     bool openPcLine(int index);
     bool openNpcLine(int index);
