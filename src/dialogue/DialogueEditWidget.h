@@ -1,12 +1,14 @@
 #pragma once
 
 #include "DialogueFileNew.h"
+#include "LineHistory.h"
 #include "Page.h"
 
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class ConversationView;
 class DialogueDocument;
@@ -61,6 +63,11 @@ public slots:
     void rebuildPCList();
     void rebuildNPCList();
     void setModifiedState();
+    void on_buttonAddNpc_clicked();
+    void on_buttonAddPc_clicked();
+    void on_buttonDelete_clicked();
+    void on_buttonPrevious_clicked();
+    void on_buttonForward_clicked();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -77,6 +84,17 @@ private:
 
     void setUpTrees();
     void connectSignals();
+    void connectLineEditing();
+    static arcanum::DialogueFileNew::LineKind modelKind(LineKind kind);
+    // The line selected in a tree, or else the open line.
+    OpenLine selectedLine() const;
+    void addLine(LineKind kind);
+    void deleteSelectedLine();
+    void renumberOpenLine(int number);
+    // Opens the line a response leads to; codes of 0 and below end the conversation and open nothing.
+    void openTarget(int line);
+    void moveInHistory(const std::function<std::optional<LineHistory::Entry>()>& step);
+    void updateHistoryButtons();
     void updateControls();
     void showFileName();
     void closeLine();
@@ -105,4 +123,7 @@ private:
     QWidget* graphWindow = nullptr;
     ConversationView* graph = nullptr;
     OpenLine open;
+    // The line last made current in either tree.
+    OpenLine selected;
+    LineHistory history;
 };
