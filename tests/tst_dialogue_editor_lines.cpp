@@ -1,5 +1,7 @@
 // Writing new dialogue: adding, deleting and renumbering lines in the model, as undo steps of the
 // document and through the page, and moving through the lines opened.
+#include "ConversationGraph.h"
+#include "ConversationView.h"
 #include "DialogueDocument.h"
 #include "DialogueEditWidget.h"
 #include "DlgNpcLineEditWidget.h"
@@ -342,6 +344,34 @@ private slots:
         QTest::mouseClick(child<QPushButton>("buttonDelete"), Qt::LeftButton);
         QCOMPARE(answers.count(QStringLiteral("question")), 1);
         QVERIFY(!page->getModel()->getNPCLine(1));
+    }
+
+    // The conversation window follows every edit, its undo included.
+    void graphFollowsEdits()
+    {
+        openPage(fileOf(CONVERSATION));
+        QTest::mouseClick(child<QPushButton>("buttonGraph"), Qt::LeftButton);
+        auto* view = page->findChild<ConversationView*>();
+        QVERIFY(view);
+        QVERIFY(page->openLine(30));
+        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+        spin->setValue(35);
+        emit spin->editingFinished();
+        QVERIFY(view->graph().find(ConversationGraph::Kind::Npc, 30) < 0);
+        QVERIFY(view->graph().find(ConversationGraph::Kind::Npc, 35) >= 0);
+        QCOMPARE(view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11)).marks, 0);
+        page->document()->undoStack()->undo();
+        QVERIFY(view->graph().find(ConversationGraph::Kind::Npc, 30) >= 0);
+        {
+            ScriptedAnswerer answers;
+            answers.buttons << QMessageBox::Yes;
+            QVERIFY(page->openLine(30));
+            QTest::mouseClick(child<QPushButton>("buttonDelete"), Qt::LeftButton);
+        }
+        // Response 11 now leads nowhere.
+        QCOMPARE(view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11)).marks,
+                 int(ConversationGraph::Dangling));
+        view->window()->close();
     }
 
     void pageHistoryAndTargets()

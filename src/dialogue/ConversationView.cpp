@@ -38,7 +38,11 @@ ConversationView::ConversationView(QWidget* parent)
     setScene(new QGraphicsScene(this));
     setRenderHint(QPainter::Antialiasing);
     setDragMode(QGraphicsView::ScrollHandDrag);
+    // Scrolling a large conversation repaints only what comes into view, without saving painter state
+    // for every one of thousands of items.
     setViewportUpdateMode(QGraphicsView::MinimalViewportUpdate);
+    setOptimizationFlags(QGraphicsView::DontSavePainterState | QGraphicsView::DontAdjustForAntialiasing);
+    setCacheMode(QGraphicsView::CacheBackground);
     setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
     legend = new QLabel(this);
     legend->setObjectName(QStringLiteral("conversationLegend"));
@@ -87,8 +91,12 @@ QColor ConversationView::colourOf(const ConversationGraph::Node& node)
     return QColor(0xdd, 0xdd, 0xdd);
 }
 
+// A graph shown again after an edit keeps the place the user looks at; the first one starts at the top,
+// with the first line.
 void ConversationView::showGraph(const ConversationGraph& graph)
 {
+    const bool first = shown.nodes().isEmpty();
+    const QPointF centre = mapToScene(viewport()->rect().center());
     shown = graph;
     scene()->clear();
     const auto& nodes = shown.nodes();
@@ -97,6 +105,10 @@ void ConversationView::showGraph(const ConversationGraph& graph)
     for (int i = 0; i < nodes.size(); ++i)
         addNode(i, nodes.at(i));
     scene()->setSceneRect(scene()->itemsBoundingRect().adjusted(-40, -40, 40, 40));
+    if (!first)
+        centerOn(centre);
+    else if (!nodes.isEmpty())
+        centerOn(nodes.first().position.x(), nodes.first().position.y() + viewport()->height() / 2.0 - 60);
 }
 
 void ConversationView::addEdge(const ConversationGraph::Node& from, const ConversationGraph::Node& to)
@@ -113,8 +125,13 @@ void ConversationView::addNode(int position, const ConversationGraph::Node& node
 {
     const QRectF box(-ConversationGraph::NODE_WIDTH / 2, -ConversationGraph::NODE_HEIGHT / 2,
                      ConversationGraph::NODE_WIDTH, ConversationGraph::NODE_HEIGHT);
-    auto* rect = scene()->addRect(box, QPen(Qt::black, node.kind == ConversationGraph::Kind::Npc ? 1.5 : 1),
-                                  QBrush(colourOf(node)));
+    // Ends are round markers, lines boxes.
+    const QPen pen(Qt::black, node.kind == ConversationGraph::Kind::Npc ? 1.5 : 1);
+    QAbstractGraphicsShapeItem* rect = nullptr;
+    if (node.kind == ConversationGraph::Kind::End)
+        rect = scene()->addEllipse(box.adjusted(box.width() / 4, 0, -box.width() / 4, 0), pen, QBrush(colourOf(node)));
+    else
+        rect = scene()->addRect(box, pen, QBrush(colourOf(node)));
     rect->setPos(node.position);
     rect->setData(NODE_ROLE, position);
     rect->setFlag(QGraphicsItem::ItemIsSelectable);
@@ -124,8 +141,11 @@ void ConversationView::addNode(int position, const ConversationGraph::Node& node
     font.setPointSizeF(8.5);
     text->setFont(font);
     const QFontMetricsF metrics(font);
-    text->setText(metrics.elidedText(text->text(), Qt::ElideRight, box.width() - 10));
-    text->setPos(box.left() + 5, -metrics.height() / 2);
+    const double room = node.kind == ConversationGraph::Kind::End ? box.width() / 2 - 10 : box.width() - 10;
+    text->setText(metrics.elidedText(text->text(), Qt::ElideRight, room));
+    text->setPos(-std::min(room, metrics.horizontalAdvance(text->text())) / 2, -metrics.height() / 2);
+    if (node.kind != ConversationGraph::Kind::End)
+        text->setPos(box.left() + 5, -metrics.height() / 2);
     rect->setToolTip(number + node.label);
 }
 

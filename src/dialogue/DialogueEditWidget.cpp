@@ -405,6 +405,9 @@ bool DialogueEditWidget::openLine(const OpenLine& line, QWidget* form, const std
     showForm(form);
     open = line;
     history.visit({static_cast<int>(line.kind), line.index});
+    if (graph != nullptr && graphWindow->isVisible())
+        graph->focusLine(line.kind == LineKind::Pc ? ConversationGraph::Kind::Pc : ConversationGraph::Kind::Npc,
+                         line.index);
     showOpenLine();
     updateControls();
     return true;
