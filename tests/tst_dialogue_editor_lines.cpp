@@ -9,6 +9,7 @@
 #include "FormatChecks.h"
 #include "LineHistory.h"
 #include "LineNumberDialog.h"
+#include "NamedChild.h"
 #include "ScriptedAnswerer.h"
 #include "UndoChecks.h"
 
@@ -75,10 +76,7 @@ private:
     template <typename T>
     T* child(const char* name) const
     {
-        T* widget = page->findChild<T*>(QString::fromLatin1(name));
-        if (!widget)
-            qFatal("no child %s", name);
-        return widget;
+        return namedChild<T>(page.get(), name);
     }
 
     QString openPage(const QByteArray& bytes)
