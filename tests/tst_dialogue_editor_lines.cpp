@@ -155,7 +155,7 @@ private slots:
                 QVERIFY(document->addLine(Kind::Pc, document->dialogue().proposedNumber(3), error));
                 break;
             case 2:
-                QVERIFY(document->deleteLine(Kind::Pc, 11));
+                QVERIFY(document->deleteLines({{Kind::Pc, 11}}));
                 break;
             case 3:
                 QVERIFY(document->renumberLine(Kind::Npc, 30, 35, error));
@@ -342,6 +342,31 @@ private slots:
         QTest::mouseClick(child<QPushButton>("buttonDelete"), Qt::LeftButton);
         QCOMPARE(answers.count(QStringLiteral("question")), 1);
         QVERIFY(!page->getModel()->getNPCLine(1));
+    }
+
+    // Several lines selected in a tree go in one step, after one question listing what leads to any of them.
+    void pageDeletesSeveralLines()
+    {
+        const QString path = openPage(fileOf(CONVERSATION));
+        auto* tree = child<QTreeWidget>("treeNPC");
+        tree->setFocus();
+        tree->setCurrentItem(tree->findItems(QStringLiteral("30:"), Qt::MatchStartsWith).value(0));
+        tree->findItems(QStringLiteral("40:"), Qt::MatchStartsWith).value(0)->setSelected(true);
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes;
+        QTest::mouseClick(child<QPushButton>("buttonDelete"), Qt::LeftButton);
+        QCOMPARE(answers.last(QStringLiteral("question"))->text,
+                 QStringLiteral("Lines 10, 11, 12, 20 lead to lines 30, 40. Delete them anyway?"));
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QCOMPARE(page->document()->undoStack()->undoText(), QStringLiteral("Delete 2 lines"));
+        QCOMPARE(saved(path), fileOf(CONVERSATION.mid(0, 7)));
+        // The Del key of a tree does the same.
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        tree->setFocus();
+        tree->setCurrentItem(tree->findItems(QStringLiteral("20:"), Qt::MatchStartsWith).value(0));
+        QTest::keyClick(tree, Qt::Key_Delete);
+        QCOMPARE(answers.last(QStringLiteral("question"))->text, QStringLiteral("Line 12 leads to line 20. Delete it anyway?"));
     }
 
     // The conversation window follows every edit, its undo included.

@@ -574,6 +574,10 @@
         <source>Renumber line %1 to %2</source>
         <translation>Перенумеровать строку %1 в %2</translation>
     </message>
+    <message>
+        <source>Delete %1 lines</source>
+        <translation>Удалить строки: %1</translation>
+    </message>
 </context>
 <context>
     <name>DialogueEditWidget</name>
@@ -800,6 +804,10 @@
     <message>
         <source>Line %1 is not in %2.</source>
         <translation>Строки %1 нет в %2.</translation>
+    </message>
+    <message>
+        <source>Lines %1 lead to lines %2. Delete them anyway?</source>
+        <translation>Строки %1 ведут на строки %2. Всё равно удалить их?</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTextCodec>
 
+#include <set>
+
 using arcanum::DialogueFileNew;
 
 namespace {
@@ -100,14 +102,34 @@ bool DialogueDocument::addLine(LineKind kind, int index, QString& error)
     return true;
 }
 
-bool DialogueDocument::deleteLine(LineKind kind, int index)
+bool DialogueDocument::deleteLines(const QList<LineRef>& lines)
 {
     beginEdit();
-    if (!model->removeLine(kind, index))
+    int deleted = 0;
+    for (const LineRef& line : lines)
+        deleted += model->removeLine(line.kind, line.index) ? 1 : 0;
+    if (deleted == 0)
         return false;
-    recordEdit(kind == LineKind::Npc ? tr("Delete NPC line %1").arg(index) : tr("Delete PC response %1").arg(index));
+    if (lines.size() == 1)
+        recordEdit(lines.first().kind == LineKind::Npc ? tr("Delete NPC line %1").arg(lines.first().index)
+                                                       : tr("Delete PC response %1").arg(lines.first().index));
+    else
+        recordEdit(tr("Delete %1 lines").arg(deleted));
     emit changed();
     return true;
+}
+
+QList<int> DialogueDocument::linesLeadingTo(const QList<LineRef>& lines) const
+{
+    std::set<int> deleted;
+    for (const LineRef& line : lines)
+        deleted.insert(line.index);
+    std::set<int> leading;
+    for (int index : deleted)
+        for (int other : model->linesNaming(index))
+            if (deleted.count(other) == 0)
+                leading.insert(other);
+    return QList<int>(leading.begin(), leading.end());
 }
 
 // A line numbered 0 would turn every response leading to it into the end of the conversation.

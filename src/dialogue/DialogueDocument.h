@@ -31,7 +31,15 @@ public:
     // The edits below are one undo step each; false (nothing changed, no step) when refused, with the
     // reason in error.
     bool addLine(LineKind kind, int index, QString& error);
-    bool deleteLine(LineKind kind, int index);
+    struct LineRef
+    {
+        LineKind kind;
+        int index;
+    };
+    // Deletes the lines (the first of each kind and number) in one step; false when none is there.
+    bool deleteLines(const QList<LineRef>& lines);
+    // The other lines that lead to or name any of these, ascending.
+    QList<int> linesLeadingTo(const QList<LineRef>& lines) const;
     // Renumbering updates every line naming the old number in the same step.
     bool renumberLine(LineKind kind, int from, int to, QString& error);
 

@@ -116,6 +116,7 @@ void DialogueEditWidget::showDocument()
     formEdited = false;
     history.clear();
     selected = OpenLine();
+    selectedTree = nullptr;
     closeLine();
     if (DialogueDocument* shown = dialogueDocument()) {
         shown->beginEdit();
@@ -213,7 +214,7 @@ void DialogueEditWidget::updateControls()
                                              ui->buttonAddPc};
     for (QWidget* widget : editingControls)
         widget->setEnabled(loaded);
-    ui->buttonDelete->setEnabled(loaded && selectedLine().kind != LineKind::None);
+    ui->buttonDelete->setEnabled(loaded && !selectedLines().isEmpty());
     updateHistoryButtons();
     ui->labelModified->setVisible(loaded && modified && !isFramed());
 }
@@ -583,14 +584,16 @@ void DialogueEditWidget::connectLineEditing()
     ui->labelOpenLine->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(ui->labelOpenLine, &QLabel::linkActivated, this, [this](const QString& link) { openTarget(link.toInt()); });
     for (QTreeWidget* tree : {ui->treeNPC, ui->treePC}) {
-        connect(tree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        connect(tree, &QTreeWidget::currentItemChanged, this, [this, tree](QTreeWidgetItem* item) {
+            selectedTree = tree;
             selected = item ? OpenLine{static_cast<LineKind>(item->data(0, KIND_ROLE).toInt()),
                                        item->data(0, INDEX_ROLE).toInt()}
                             : OpenLine();
-            ui->buttonDelete->setEnabled(dialogueDocument() != nullptr && selectedLine().kind != LineKind::None);
+            ui->buttonDelete->setEnabled(dialogueDocument() != nullptr && !selectedLines().isEmpty());
         });
         auto* shortcut = new QShortcut(QKeySequence::Delete, tree, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, &DialogueEditWidget::deleteSelectedLine);
+        connect(shortcut, &QShortcut::activated, this, &DialogueEditWidget::deleteSelectedLines);
     }
 }
 
@@ -624,7 +627,7 @@ void DialogueEditWidget::on_buttonAddPc_clicked()
 
 void DialogueEditWidget::on_buttonDelete_clicked()
 {
-    deleteSelectedLine();
+    deleteSelectedLines();
 }
 
 // The number offered lies in the gap after the selected line; a number the line cannot have is
@@ -651,30 +654,51 @@ void DialogueEditWidget::addLine(LineKind kind)
     }
 }
 
-// Lines that lead to the one deleted would lead nowhere afterwards: the user sees which and decides.
-void DialogueEditWidget::deleteSelectedLine()
+QList<DialogueEditWidget::OpenLine> DialogueEditWidget::selectedLines() const
+{
+    QList<OpenLine> lines;
+    if (selectedTree != nullptr)
+        for (const QTreeWidgetItem* item : selectedTree->selectedItems())
+            lines.append({static_cast<LineKind>(item->data(0, KIND_ROLE).toInt()), item->data(0, INDEX_ROLE).toInt()});
+    if (lines.isEmpty() && selectedLine().kind != LineKind::None)
+        lines.append(selectedLine());
+    return lines;
+}
+
+// Lines that lead to the ones deleted would lead nowhere afterwards: the user sees which and decides.
+void DialogueEditWidget::deleteSelectedLines()
 {
     DialogueDocument* shown = dialogueDocument();
-    const OpenLine line = selectedLine();
-    if (shown == nullptr || line.kind == LineKind::None)
+    const QList<OpenLine> lines = selectedLines();
+    if (shown == nullptr || lines.isEmpty())
         return;
     applyPendingForm();
-    const QList<int> naming = shown->dialogue().linesNaming(line.index);
+    QList<DialogueDocument::LineRef> refs;
+    QStringList deleted;
+    for (const OpenLine& line : lines) {
+        refs.append({modelKind(line.kind), line.index});
+        deleted << QString::number(line.index);
+    }
+    const QList<int> naming = shown->linesLeadingTo(refs);
     if (!naming.isEmpty()) {
         QStringList numbers;
         for (int number : naming)
             numbers << QString::number(number);
-        const QString text = naming.size() == 1
-                                 ? tr("Line %1 leads to line %2. Delete it anyway?").arg(numbers.first()).arg(line.index)
-                                 : tr("Lines %1 lead to line %2. Delete it anyway?")
-                                       .arg(numbers.join(QStringLiteral(", ")))
-                                       .arg(line.index);
+        const QString list = numbers.join(QStringLiteral(", "));
+        QString text;
+        if (lines.size() > 1)
+            text = tr("Lines %1 lead to lines %2. Delete them anyway?").arg(list, deleted.join(QStringLiteral(", ")));
+        else if (naming.size() == 1)
+            text = tr("Line %1 leads to line %2. Delete it anyway?").arg(list, deleted.first());
+        else
+            text = tr("Lines %1 lead to line %2. Delete it anyway?").arg(list, deleted.first());
         if (Prompt::question(this, tr("Delete line"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
             != QMessageBox::Yes)
             return;
     }
     selected = OpenLine();
-    shown->deleteLine(modelKind(line.kind), line.index);
+    selectedTree = nullptr;
+    shown->deleteLines(refs);
 }
 
 // The form's edits go in first, as a step of their own; the renumbering with every reference is the next.

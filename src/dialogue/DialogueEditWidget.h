@@ -88,8 +88,10 @@ private:
     static arcanum::DialogueFileNew::LineKind modelKind(LineKind kind);
     // The line selected in a tree, or else the open line.
     OpenLine selectedLine() const;
+    // The lines selected in the tree last clicked, or else the open line.
+    QList<OpenLine> selectedLines() const;
     void addLine(LineKind kind);
-    void deleteSelectedLine();
+    void deleteSelectedLines();
     void renumberOpenLine(int number);
     // Opens the line a response leads to; codes of 0 and below end the conversation and open nothing.
     void openTarget(int line);
@@ -125,5 +127,6 @@ private:
     OpenLine open;
     // The line last made current in either tree.
     OpenLine selected;
+    QTreeWidget* selectedTree = nullptr;
     LineHistory history;
 };
