@@ -283,6 +283,7 @@ private slots:
         QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 35);
         QVERIFY(saved(path).contains("\t{12}{Join?}{}{1}{}{20}{JO 35 40,  zz 5}\r\n"));
         page->document()->undoStack()->undo();
+        QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 30); // still open
         QCOMPARE(saved(path), fileOf(CONVERSATION));
     }
 

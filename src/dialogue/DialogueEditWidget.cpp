@@ -127,6 +127,13 @@ void DialogueEditWidget::showDocument()
             closeLine();
             fillTrees();
             reopen(wasOpen);
+            // Undoing or redoing a renumbering keeps its line open under the number it has now.
+            if (open.kind == LineKind::None && wasOpen.kind == renumbered.first.kind) {
+                if (wasOpen.index == renumbered.second.index)
+                    reopen(renumbered.first);
+                else if (wasOpen.index == renumbered.first.index)
+                    reopen(renumbered.second);
+            }
             refreshGraph();
             updateControls();
         });
@@ -716,6 +723,7 @@ void DialogueEditWidget::renumberOpenLine(int number)
         return;
     }
     history.renumber(static_cast<int>(was.kind), was.index, number);
+    renumbered = {was, {was.kind, number}};
     reopen({was.kind, number});
 }
 

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class ConversationView;
 class DialogueDocument;
@@ -128,5 +129,7 @@ private:
     // The line last made current in either tree.
     OpenLine selected;
     QTreeWidget* selectedTree = nullptr;
+    // The line last renumbered, as it was and as it became.
+    std::pair<OpenLine, OpenLine> renumbered;
     LineHistory history;
 };
