@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -15,12 +16,13 @@ namespace {
 const double ZOOM_STEP = 1.25;
 const int NODE_ROLE = 0;
 
-QPainterPath arrow(QPointF from, QPointF to)
+// A curve through two control points with its head along the last stretch.
+QPainterPath arrow(QPointF from, QPointF control1, QPointF control2, QPointF to)
 {
     QPainterPath path(from);
-    const double middle = (from.y() + to.y()) / 2;
-    path.cubicTo(QPointF(from.x(), middle), QPointF(to.x(), middle), to);
-    const double angle = std::atan2(to.y() - middle, to.x() - to.x() + 0.0001);
+    path.cubicTo(control1, control2, to);
+    const QPointF along = to - control2;
+    const double angle = std::atan2(along.y(), along.x() + 0.0001);
     const double size = 7;
     path.moveTo(to);
     path.lineTo(to - QPointF(size * std::cos(angle - 0.45), size * std::sin(angle - 0.45)));
@@ -111,13 +113,26 @@ void ConversationView::showGraph(const ConversationGraph& graph)
         centerOn(nodes.first().position.x(), nodes.first().position.y() + viewport()->height() / 2.0 - 60);
 }
 
+// Arrows down leave a box at its foot and enter the next at its head. An arrow back up (to an earlier
+// line or an end marker above or beside) leaves and enters on the right and bows out to the right, so
+// it does not run through the boxes of the rows between them.
 void ConversationView::addEdge(const ConversationGraph::Node& from, const ConversationGraph::Node& to)
 {
     const double half = ConversationGraph::NODE_HEIGHT / 2;
-    const QPointF start = from.position + QPointF(0, half);
-    // A line that leads back up enters its target from above like every other arrow.
-    const QPointF end = to.position - QPointF(0, half);
-    auto* item = scene()->addPath(arrow(start, end), QPen(QColor(0x55, 0x55, 0x55), 1.2));
+    QPainterPath path;
+    if (to.layer > from.layer) {
+        const QPointF start = from.position + QPointF(0, half);
+        const QPointF end = to.position - QPointF(0, half);
+        const double middle = (start.y() + end.y()) / 2;
+        path = arrow(start, QPointF(start.x(), middle), QPointF(end.x(), middle), end);
+    } else {
+        const double right = (to.kind == ConversationGraph::Kind::End ? 0.25 : 0.5) * ConversationGraph::NODE_WIDTH;
+        const QPointF start = from.position + QPointF(ConversationGraph::NODE_WIDTH / 2, 0);
+        const QPointF end = to.position + QPointF(right, 0);
+        const double bulge = std::max(start.x(), end.x()) + 30 + std::abs(start.y() - end.y()) / 6;
+        path = arrow(start, QPointF(bulge, start.y()), QPointF(bulge, end.y()), end);
+    }
+    auto* item = scene()->addPath(path, QPen(QColor(0x55, 0x55, 0x55), 1.2));
     item->setZValue(-1);
 }
 
