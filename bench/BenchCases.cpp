@@ -8,6 +8,8 @@
 #include "GameView.h"
 #include "PaletteMatcher.h"
 #include "BenchInputs.h"
+#include "ConversationGraph.h"
+#include "ConversationView.h"
 #include "DialogueFileNew.h"
 #include "FormatRegistry.h"
 #include "Manager.h"
@@ -23,6 +25,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextStream>
 #include <QTextCodec>
 
 #include <benchmark/benchmark.h>
@@ -369,6 +374,58 @@ void addMesWidget(Registrar& r, const QString& game)
     });
 }
 
+// A conversation of 1 000 lines: 250 NPC lines, each offering a response onward, one back to an earlier
+// line and one that ends the conversation.
+std::shared_ptr<arcanum::DialogueFileNew> conversation()
+{
+    QString text;
+    for (int i = 0; i < 250; ++i) {
+        const int npc = i * 4 + 1;
+        text += QStringLiteral("{%1}{Line %1 of a long conversation, with some words to show}{}{}{}{}{}\n").arg(npc);
+        text += QStringLiteral("{%1}{Go on}{}{1}{}{%2}{}\n").arg(npc + 1).arg(npc + 4);
+        text += QStringLiteral("{%1}{Back}{}{1}{}{%2}{}\n").arg(npc + 2).arg((i * 37 % (i + 1)) * 4 + 1);
+        text += QStringLiteral("{%1}{Bye}{}{1}{}{0}{}\n").arg(npc + 3);
+    }
+    auto dialogue = std::make_shared<arcanum::DialogueFileNew>();
+    QTextStream stream(&text);
+    dialogue->read(stream);
+    dialogue->sortLines();
+    return dialogue;
+}
+
+// The conversation window: laid out again after every edit, shown, and scrolled a screen at a time.
+void addConversationGraph(Registrar& r)
+{
+    const double bytes = double(conversation()->toBytes().size());
+    r.addPrepared("conversation graph: layout of 1 000 lines", bytes, Goal::Seconds, 1.0, []() -> Registrar::Body {
+        const auto dialogue = conversation();
+        return [dialogue] { benchmark::DoNotOptimize(ConversationGraph::build(*dialogue).nodes().size()); };
+    });
+    r.addPrepared("conversation view: 1 000 lines laid out and shown", bytes, Goal::Seconds, 1.0,
+                  []() -> Registrar::Body {
+                      const auto dialogue = conversation();
+                      auto view = std::make_shared<ConversationView>();
+                      view->resize(900, 700);
+                      return [dialogue, view] {
+                          view->showGraph(ConversationGraph::build(*dialogue));
+                          QApplication::processEvents();
+                      };
+                  });
+    // Smooth scrolling: one frame of the viewport painted well within a 60 Hz refresh.
+    r.addPrepared("conversation view: one frame scrolled", bytes, Goal::Seconds, 1.0 / 60, []() -> Registrar::Body {
+        auto view = std::make_shared<ConversationView>();
+        view->resize(900, 700);
+        view->showGraph(ConversationGraph::build(*conversation()));
+        auto frame = std::make_shared<QImage>(view->viewport()->size(), QImage::Format_ARGB32_Premultiplied);
+        return [view, frame] {
+            QScrollBar* bar = view->verticalScrollBar();
+            bar->setValue(bar->value() + bar->pageStep() > bar->maximum() ? 0 : bar->value() + bar->pageStep());
+            QPainter painter(frame.get());
+            view->render(&painter);
+        };
+    });
+}
+
 // Archives: many small text-like entries, as the game's archives hold.
 QVector<arcanum::DatWriter::File> archiveFiles(int count, int size, const QString& prefix)
 {
@@ -531,6 +588,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addArtMaking(r, outDir);
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
+    addConversationGraph(r);
     addArchives(r, outDir);
     addRewrites(r, gameDir);
     r.addMemcpys();

@@ -538,6 +538,46 @@
         <source>the file could not be read as dialogue lines from file line %1 on; that part is not shown but is written back unchanged after the lines</source>
         <translation>начиная со строки файла %1 файл не читается как реплики диалога; эта часть не показана, но записывается без изменений после реплик</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no line number: a line number is a whole number from 0 to 2 147 483 647.</source>
+        <translation>«%1» — не номер строки: номер строки — целое число от 0 до 2 147 483 647.</translation>
+    </message>
+    <message>
+        <source>Line %1 is already in use.</source>
+        <translation>Номер %1 уже занят.</translation>
+    </message>
+    <message>
+        <source>Add NPC line %1</source>
+        <translation>Добавить реплику NPC %1</translation>
+    </message>
+    <message>
+        <source>Add PC response %1</source>
+        <translation>Добавить ответ PC %1</translation>
+    </message>
+    <message>
+        <source>Delete NPC line %1</source>
+        <translation>Удалить реплику NPC %1</translation>
+    </message>
+    <message>
+        <source>Delete PC response %1</source>
+        <translation>Удалить ответ PC %1</translation>
+    </message>
+    <message>
+        <source>Line %1 cannot become line 0: other lines lead to it, and a response line of 0 ends the conversation.</source>
+        <translation>Строке %1 нельзя дать номер 0: на неё ведут другие строки, а строка ответа 0 завершает разговор.</translation>
+    </message>
+    <message>
+        <source>There is no line %1.</source>
+        <translation>Строки %1 нет.</translation>
+    </message>
+    <message>
+        <source>Renumber line %1 to %2</source>
+        <translation>Перенумеровать строку %1 в %2</translation>
+    </message>
+    <message>
+        <source>Delete %1 lines</source>
+        <translation>Удалить строки: %1</translation>
+    </message>
 </context>
 <context>
     <name>DialogueEditWidget</name>
@@ -704,6 +744,70 @@
     <message>
         <source>Go forward again after going back</source>
         <translation>Снова перейти вперёд после возврата</translation>
+    </message>
+    <message>
+        <source>Add NPC line</source>
+        <translation>Добавить реплику NPC</translation>
+    </message>
+    <message>
+        <source>Add an NPC line after the selected line</source>
+        <translation>Добавить реплику NPC после выбранной строки</translation>
+    </message>
+    <message>
+        <source>Add response</source>
+        <translation>Добавить ответ</translation>
+    </message>
+    <message>
+        <source>Add a PC response after the selected line</source>
+        <translation>Добавить ответ PC после выбранной строки</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete the selected line (Del)</source>
+        <translation>Удалить выбранную строку (Del)</translation>
+    </message>
+    <message>
+        <source>Double-click to open line %1</source>
+        <translation>Двойной щелчок открывает строку %1</translation>
+    </message>
+    <message>
+        <source>Add PC response</source>
+        <translation>Добавить ответ PC</translation>
+    </message>
+    <message>
+        <source>Number of the new line (0 to 2 147 483 647, not in use):</source>
+        <translation>Номер новой строки (от 0 до 2 147 483 647, не занятый):</translation>
+    </message>
+    <message>
+        <source>Line %1 leads to line %2. Delete it anyway?</source>
+        <translation>Строка %1 ведёт на строку %2. Всё равно удалить?</translation>
+    </message>
+    <message>
+        <source>Lines %1 lead to line %2. Delete it anyway?</source>
+        <translation>Строки %1 ведут на строку %2. Всё равно удалить?</translation>
+    </message>
+    <message>
+        <source>Delete line</source>
+        <translation>Удаление строки</translation>
+    </message>
+    <message>
+        <source>Change line number</source>
+        <translation>Изменение номера строки</translation>
+    </message>
+    <message>
+        <source>Open line</source>
+        <translation>Открытие строки</translation>
+    </message>
+    <message>
+        <source>Line %1 is not in %2.</source>
+        <translation>Строки %1 нет в %2.</translation>
+    </message>
+    <message>
+        <source>Lines %1 lead to lines %2. Delete them anyway?</source>
+        <translation>Строки %1 ведут на строки %2. Всё равно удалить их?</translation>
     </message>
 </context>
 <context>
@@ -882,16 +986,16 @@
         <source>Adds a result at the top of the list; results happen when the character says this line</source>
         <translation>Добавляет результат в начало списка; результаты наступают, когда персонаж произносит эту реплику</translation>
     </message>
+    <message>
+        <source>The number of this line. Press Enter to change it: every line leading to it or naming it follows.</source>
+        <translation>Номер этой строки. Нажмите Enter, чтобы изменить его: все строки, которые ведут на неё или называют её, изменятся вместе с ним.</translation>
+    </message>
 </context>
 <context>
     <name>DlgPcLineEditWidget</name>
     <message>
         <source>Line number</source>
         <translation>Номер строки</translation>
-    </message>
-    <message>
-        <source>Changing of line number not yet implemented</source>
-        <translation>Изменение номера строки пока не реализовано</translation>
     </message>
     <message>
         <source>Set original data</source>
@@ -972,6 +1076,10 @@
     <message>
         <source>Adds a result at the top of the list; results happen when the player chooses this response</source>
         <translation>Добавляет результат в начало списка; результаты наступают, когда игрок выбирает этот ответ</translation>
+    </message>
+    <message>
+        <source>The number of this line. Press Enter to change it: every line leading to it or naming it follows.</source>
+        <translation>Номер этой строки. Нажмите Enter, чтобы изменить его: все строки, которые ведут на неё или называют её, изменятся вместе с ним.</translation>
     </message>
 </context>
 <context>
