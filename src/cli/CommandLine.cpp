@@ -4,9 +4,12 @@
 #include "DatCommand.h"
 #include "DumpCommand.h"
 #include "ExportCommand.h"
+#include "FindCommand.h"
 #include "ModelChatter.h"
 #include "RoundtripCommand.h"
 
+#include <QDir>
+#include <QSettings>
 #include <QTextCodec>
 
 #include <cstdio>
@@ -20,7 +23,7 @@ CommandLine::CommandLine()
     , sheetOption(QStringLiteral("sheet"),
                   QStringLiteral("export: one sprite sheet per palette, images as rows, frames as columns."))
     , encodingOption(QStringLiteral("encoding"),
-                     QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
+                     QStringLiteral("check, dump, roundtrip, find: the code page of .mes files (default UTF-8)."),
                      QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
 {
     parser.setApplicationDescription(QStringLiteral(
@@ -33,12 +36,16 @@ CommandLine::CommandLine()
         "  dat list ARCHIVE              list the files of a game archive (.dat)\n"
         "  dat extract ARCHIVE OUTDIR [PATTERN...]  extract files (wildcards over their paths)\n"
         "  dat pack DIR ARCHIVE          pack every file below DIR into an archive\n"
-        "  dat verify ARCHIVE            check an archive as the engine reads it\n\n"
+        "  dat verify ARCHIVE            check an archive as the engine reads it\n"
+        "  find PATTERN [DIR]            texts of message and dialogue files holding PATTERN\n"
+        "  find --number N --as flag|var|script|message [DIR]  where the number is used\n"
+        "                                (find exits 0 when found, 1 when nothing was found)\n\n"
         "Exit status: 0 clean, 1 problems or differences, 2 usage or input/output error."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, encodingOption});
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export or dat"));
+    parser.addOptions(FindCommand::options());
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, dat or find"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
 }
@@ -80,11 +87,21 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
             exporter.onlyPalette(palette);
         return exporter.run(operands.at(0), operands.at(1));
     }
+    if (command == QLatin1String("find"))
+        return FindCommand(codec).run(parser, operands);
     if (command == QLatin1String("dat"))
         return DatCommand(parser.isSet(jsonOption)).run(operands);
     const QStringList known = {"check", "dump", "roundtrip", "export"};
     return usageError(known.contains(command) ? QStringLiteral("wrong number of arguments for %1").arg(command)
                                               : QStringLiteral("unknown command \"%1\"").arg(command));
+}
+
+QString CommandLine::baseDir(const QString& dir)
+{
+    if (!dir.isEmpty())
+        return dir;
+    const QSettings settings(QStringLiteral("qtLoreka.ini"), QSettings::IniFormat);
+    return QDir::cleanPath(settings.value(QStringLiteral("Directories/BaseDir"), QStringLiteral(".")).toString());
 }
 
 QTextCodec* CommandLine::mesCodec()

@@ -17,6 +17,9 @@ public:
 
     CommandLine();
     int run(const QStringList& arguments);
+    // The game folder a command works on: dir, or when empty the editor's base directory from
+    // "qtLoreka.ini" in the working directory, or the working directory itself.
+    static QString baseDir(const QString& dir);
 
 private:
     int dispatch(const QString& command, const QStringList& operands);
