@@ -90,6 +90,10 @@ QVector<const GameView::File*> GameSearch::files(const GameView& view) const
         if (format != nullptr && kinds.contains(format->kind))
             found.append(&file);
     }
+    // By path, so every run (and every row of the command line) comes in the same order.
+    std::sort(found.begin(), found.end(), [](const GameView::File* a, const GameView::File* b) {
+        return a->path.compare(b->path, Qt::CaseInsensitive) < 0;
+    });
     return found;
 }
 

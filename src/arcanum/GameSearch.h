@@ -75,7 +75,7 @@ public:
     const QString& error() const { return invalid; }
     const Query& query() const { return wanted; }
 
-    // The files of the kinds the query reads, in the view's order.
+    // The files of the kinds the query reads, sorted by path.
     QVector<const GameView::File*> files(const GameView& view) const;
     // The hits in one file's bytes; gamePath names the file and decides its kind. Hit::file is left
     // empty for the caller, who knows where the file came from.
