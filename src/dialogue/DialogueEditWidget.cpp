@@ -373,6 +373,11 @@ bool DialogueEditWidget::openNpcLine(int index)
     return line && openLine({LineKind::Npc, index}, ui->npcForm, [&] { ui->npcForm->fillWithData(line); });
 }
 
+bool DialogueEditWidget::openLine(int index)
+{
+    return openNpcLine(index) || openPcLine(index);
+}
+
 bool DialogueEditWidget::openLine(const OpenLine& line, QWidget* form, const std::function<void()>& fill)
 {
     applyPendingForm();

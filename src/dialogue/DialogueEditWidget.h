@@ -39,6 +39,8 @@ public:
     // Opens the line with that index in its form; false when there is none.
     bool openPcLine(int index);
     bool openNpcLine(int index);
+    // The NPC or PC line with that number, whichever the file has.
+    bool openLine(int index);
 
     arcanum::DialogueFileNew* getModel() const;
     // Changes in the document or in the open line's form, not yet applied.
