@@ -402,7 +402,8 @@ double folderSize(const QString& folder)
     return total;
 }
 
-// Find in game over 10 000 small files: a text most files lack, and the uses of a flag.
+// Find in game over 10 000 small files: a text most files lack, as text and as a regular expression,
+// and the uses of a flag.
 void addFind(Registrar& r, const QString& outDir)
 {
     const QString game = outDir + QStringLiteral("/search-game");
@@ -419,6 +420,12 @@ void addFind(Registrar& r, const QString& outDir)
     arcanum::GameSearch::Query text;
     text.pattern = QString::fromLatin1(BenchInputs::SEARCHED_TEXT);
     r.add("find in game: text, 10 000 files", bytes, Goal::Seconds, 2.0, search(text));
+    r.cases.back().files = BenchInputs::SEARCH_FILES;
+    // A regular expression is matched text by text, so every file is parsed: the slow end.
+    arcanum::GameSearch::Query expression = text;
+    expression.pattern = QStringLiteral("brass\\s+needle$");
+    expression.regex = true;
+    r.add("find in game: regex, 10 000 files", bytes, Goal::Seconds, 2.0, search(expression));
     r.cases.back().files = BenchInputs::SEARCH_FILES;
     arcanum::GameSearch::Query flag;
     flag.mode = arcanum::GameSearch::Mode::Flag;
