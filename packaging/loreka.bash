@@ -12,27 +12,31 @@ _loreka()
         --format)
             COMPREPLY=($(compgen -W 'png bmp jpg tiff' -- "$cur"))
             return ;;
-        --palette)
+        --palette|--number)
+            return ;;
+        --as)
+            COMPREPLY=($(compgen -W 'flag var script message' -- "$cur"))
             return ;;
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --encoding' -- "$cur"))
+        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --encoding --regex --case --number --as' -- "$cur"))
         return
     fi
 
     local command="" sub="" i
     for ((i = 1; i < cword; i++)); do
         case ${words[i]} in
-            --palette|--format|--encoding) ((i++)) ;;
+            --palette|--format|--encoding|--number|--as) ((i++)) ;;
             -*) ;;
             *) if [[ -z $command ]]; then command=${words[i]}; elif [[ -z $sub ]]; then sub=${words[i]}; fi ;;
         esac
     done
 
     case $command in
-        "") COMPREPLY=($(compgen -W 'check dump roundtrip export dat' -- "$cur")) ;;
+        "") COMPREPLY=($(compgen -W 'check dump roundtrip export dat find' -- "$cur")) ;;
         check) _filedir -d ;;
+        find) [[ -n $sub ]] && _filedir -d ;;
         dump|roundtrip) _filedir '@(mes|dlg|scr|art|aap|pro|dat)' ;;
         export) _filedir ;;
         dat)
