@@ -132,6 +132,20 @@ private slots:
         dialog->findChild<QCheckBox*>("findRegex")->setChecked(false);
     }
 
+    void anotherBaseDirectoryIsAnotherGame()
+    {
+        QTemporaryDir other;
+        QVERIFY(QDir().mkpath(other.filePath("data/mes")));
+        QFile file(other.filePath("data/mes/other.mes"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("{1}{A needle elsewhere}\r\n");
+        file.close();
+        QVERIFY(window->changeBaseDir(other.path()));
+        QCOMPARE(searchFor("needle", GameSearch::Mode::Text), QStringList{"data/mes/other.mes:1 1"});
+        QVERIFY(window->changeBaseDir(game.path()));
+        QCOMPARE(searchFor("needle", GameSearch::Mode::Text), QStringList{"data/mes/override.mes:3 2"});
+    }
+
     void cancelLeavesTheWindowUsable()
     {
         dialog->findChild<QLineEdit*>("findPattern")->setText("e");

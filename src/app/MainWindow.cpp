@@ -467,6 +467,10 @@ FindInGameDialog* MainWindow::showFindInGame()
     if (findDialog == nullptr) {
         findDialog = new FindInGameDialog(this);
         connect(findDialog, &FindInGameDialog::hitActivated, this, &MainWindow::openHit);
+        // Another base directory or module is another game to search.
+        connect(gameWidget, &GameWidget::viewChanged, findDialog, [this] {
+            findDialog->setGame(manager.getBaseDirPath(), gameWidget->view().module(), mesWidget->getCodec());
+        });
     }
     findDialog->setGame(manager.getBaseDirPath(), gameWidget->view().module(), mesWidget->getCodec());
     findDialog->show();
