@@ -124,6 +124,10 @@ private slots:
         QVERIFY(!dialog->isRunning());
         QVERIFY2(status->text().contains("forty"), qPrintable(status->text()));
         dialog->findChild<QComboBox*>("findMode")->setCurrentIndex(0);
+        dialog->findChild<QLineEdit*>("findPattern")->clear();
+        dialog->start();
+        QVERIFY(!dialog->isRunning());
+        QCOMPARE(status->text(), QStringLiteral("Type the text to find."));
         dialog->findChild<QCheckBox*>("findRegex")->setChecked(true);
         dialog->findChild<QLineEdit*>("findPattern")->setText("(");
         dialog->start();

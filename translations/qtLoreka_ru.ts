@@ -1107,6 +1107,10 @@
         <source>Could not read: %1</source>
         <translation>Не удалось прочитать: %1</translation>
     </message>
+    <message>
+        <source>Type the text to find.</source>
+        <translation>Введите искомый текст.</translation>
+    </message>
 </context>
 <context>
     <name>GameListing</name>

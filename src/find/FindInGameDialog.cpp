@@ -136,8 +136,11 @@ bool FindInGameDialog::queryFromFields(GameSearch::Query& query)
     query.pattern = patternEdit->text();
     query.caseSensitive = caseBox->isChecked();
     query.regex = regexBox->isChecked();
-    if (query.mode == GameSearch::Mode::Text)
-        return true;
+    if (query.mode == GameSearch::Mode::Text) {
+        if (query.pattern.isEmpty())
+            status->setText(tr("Type the text to find."));
+        return !query.pattern.isEmpty();
+    }
     bool ok = false;
     query.number = patternEdit->text().trimmed().toInt(&ok);
     if (!ok)
