@@ -21,9 +21,22 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <QSettings>
+
 #include <fstream>
 
 using namespace arcanum;
+
+namespace {
+
+// The editor's base directory, read from its settings file without writing to it.
+QString savedBaseDir()
+{
+    const QSettings settings(QStringLiteral("qtLoreka.ini"), QSettings::IniFormat);
+    return settings.value(QStringLiteral("Directories/BaseDir"), QStringLiteral(".")).toString();
+}
+
+} // namespace
 
 CheckCommand::CheckCommand(QTextCodec* mesCodec)
     : codec(mesCodec)
@@ -32,7 +45,7 @@ CheckCommand::CheckCommand(QTextCodec* mesCodec)
 
 int CheckCommand::run(const QString& dir)
 {
-    const QString base = CommandLine::baseDir(dir);
+    const QString base = dir.isEmpty() ? QDir::cleanPath(savedBaseDir()) : dir;
     const QString data = QDir::cleanPath(base + QStringLiteral("/data"));
     if (!QFileInfo(data).isDir()) {
         report.ioError(data, QStringLiteral("no such folder"));

@@ -23,7 +23,7 @@ CommandLine::CommandLine()
     , sheetOption(QStringLiteral("sheet"),
                   QStringLiteral("export: one sprite sheet per palette, images as rows, frames as columns."))
     , encodingOption(QStringLiteral("encoding"),
-                     QStringLiteral("check, dump, roundtrip, find: the code page of .mes files (default UTF-8)."),
+                     QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
                      QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
 {
     parser.setApplicationDescription(QStringLiteral(
@@ -44,10 +44,12 @@ CommandLine::CommandLine()
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, encodingOption});
-    parser.addOptions(FindCommand::options());
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, dat or find"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export or dat"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
+
+    // find's options; --encoding applies to it as well.
+    parser.addOptions(FindCommand::options());
 }
 
 int CommandLine::run(const QStringList& arguments)
