@@ -5,6 +5,7 @@
 #include "Artfile.h"
 #include "DatArchive.h"
 #include "DatWriter.h"
+#include "GameSearch.h"
 #include "GameView.h"
 #include "PaletteMatcher.h"
 #include "BenchInputs.h"
@@ -22,6 +23,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -544,6 +546,49 @@ void addArchives(Registrar& r, const QString& outDir)
     });
 }
 
+double folderSize(const QString& folder)
+{
+    double total = 0;
+    QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        it.next();
+        total += double(it.fileInfo().size());
+    }
+    return total;
+}
+
+// Find in game over 10 000 small files: a text most files lack, as text and as a regular expression,
+// and the uses of a flag.
+void addFind(Registrar& r, const QString& outDir)
+{
+    const QString game = outDir + QStringLiteral("/search-game");
+    if (!QFileInfo::exists(game) && !BenchInputs::writeSearchGame(game))
+        return;
+    const double bytes = folderSize(game);
+    const auto search = [game](const arcanum::GameSearch::Query& query) {
+        return [game, query] {
+            const arcanum::GameSearch::Result result
+                = arcanum::GameSearch(query, QTextCodec::codecForName("UTF-8")).run(game, QStringLiteral("Arcanum"));
+            benchmark::DoNotOptimize(result.hits.size());
+        };
+    };
+    arcanum::GameSearch::Query text;
+    text.pattern = QString::fromLatin1(BenchInputs::SEARCHED_TEXT);
+    r.add("find in game: text, 10 000 files", bytes, Goal::Seconds, 2.0, search(text));
+    r.cases.back().files = BenchInputs::SEARCH_FILES;
+    // A regular expression is matched text by text, so every file is parsed: the slow end.
+    arcanum::GameSearch::Query expression = text;
+    expression.pattern = QStringLiteral("brass\\s+needle$");
+    expression.regex = true;
+    r.add("find in game: regex, 10 000 files", bytes, Goal::Seconds, 2.0, search(expression));
+    r.cases.back().files = BenchInputs::SEARCH_FILES;
+    arcanum::GameSearch::Query flag;
+    flag.mode = arcanum::GameSearch::Mode::Flag;
+    flag.number = 42;
+    r.add("find in game: flag 42, 10 000 files", bytes, Goal::Seconds, 2.0, search(flag));
+    r.cases.back().files = BenchInputs::SEARCH_FILES;
+}
+
 } // namespace
 
 std::string memcpyName(double bytes)
@@ -591,6 +636,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addConversationGraph(r);
     addArchives(r, outDir);
     addRewrites(r, gameDir);
+    addFind(r, outDir);
     r.addMemcpys();
     return r.cases;
 }

@@ -297,6 +297,46 @@ private slots:
         QCOMPARE(condition["operands"][0]["type"].toString(), QStringLiteral("Number"));
     }
 
+    void findPrintsRows_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("text, any case") << QStringList{"find", "rusty"} << 0
+            << QStringList{"data/dlg/sample_dialogue.dlg:1: Welcome to the Rusty Cog, stranger. What will it be?",
+                           "data/dlg/sample_dialogue.dlg:1: Welcome to the Rusty Cog, my lady. What will it be?",
+                           "data/mes/sample_items.mes:3: Rusty dagger"};
+        QTest::newRow("text, case must match") << QStringList{"find", "--case", "rusty"} << 1 << QStringList();
+        QTest::newRow("regex inside an archive") << QStringList{"find", "--regex", "^Opened from"} << 0
+            << QStringList{"arcanum1.dat/mes/archived_notes.mes:2: Opened from arcanum1.dat"};
+        QTest::newRow("flag uses") << QStringList{"find", "--number", "12", "--as", "flag"} << 0
+            << QStringList{"data/dlg/sample_dialogue.dlg:6: line 6, test gf 12 1",
+                           "data/dlg/sample_dialogue.dlg:14: line 30, result gf 12 1",
+                           "data/scr/00003quest_giver.scr:3: IF global flag (Global Flag 12) is set",
+                           "data/scr/00003quest_giver.scr:3: ELSE set global flag (Number 12) to true"};
+        QTest::newRow("script of a prototype") << QStringList{"find", "--number", "1530", "--as", "script"} << 0
+            << QStringList{"data/proto/weapon_sword.pro:0: script point Wield on: script 1530"};
+        QTest::newRow("unused number") << QStringList{"find", "--number", "999", "--as", "var"} << 1 << QStringList();
+        QTest::newRow("number without kind") << QStringList{"find", "--number", "3"} << 2 << QStringList();
+        QTest::newRow("bad regex") << QStringList{"find", "--regex", "(x"} << 2 << QStringList();
+        QTest::newRow("unknown kind") << QStringList{"find", "--number", "3", "--as", "quest"} << 2 << QStringList();
+        QTest::newRow("kind without number") << QStringList{"find", "x", "--as", "flag"} << 2 << QStringList();
+    }
+
+    void findPrintsRows()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QStringList, rows);
+        // The game folder named, and taken from the working directory.
+        for (const Run& run : {loreka(arguments + QStringList{game}), loreka(arguments, game)}) {
+            QCOMPARE(run.code, code);
+            QCOMPARE(run.lines(), rows);
+            if (code == 2)
+                QVERIFY(run.err.contains("loreka: find: "));
+        }
+    }
+
     void datPackListExtractVerify()
     {
         const QString archive = scratch.filePath("sample.dat");

@@ -1094,6 +1094,133 @@
     </message>
 </context>
 <context>
+    <name>FindInGameDialog</name>
+    <message>
+        <source>Find in game files</source>
+        <translation>Поиск по файлам игры</translation>
+    </message>
+    <message>
+        <source>Text of messages and dialogue lines</source>
+        <translation>Текст сообщений и реплик диалогов</translation>
+    </message>
+    <message>
+        <source>Number used as a global flag</source>
+        <translation>Число как глобальный флаг</translation>
+    </message>
+    <message>
+        <source>Number used as a global variable</source>
+        <translation>Число как глобальная переменная</translation>
+    </message>
+    <message>
+        <source>Number used as a script</source>
+        <translation>Число как номер скрипта</translation>
+    </message>
+    <message>
+        <source>Number used as a message or dialogue line</source>
+        <translation>Число как номер сообщения или реплики</translation>
+    </message>
+    <message>
+        <source>Number modes list dialogue tests and results, script statements and prototype script points that use the number</source>
+        <translation>В режимах чисел перечисляются проверки и результаты диалогов, операторы скриптов и точки скриптов прототипов, где используется это число</translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>С учётом &amp;регистра</translation>
+    </message>
+    <message>
+        <source>Regular e&amp;xpression</source>
+        <translation>Регулярное &amp;выражение</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Найти</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>File:line</source>
+        <translation>Файл:строка</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Text or use</source>
+        <translation>Текст или использование</translation>
+    </message>
+    <message>
+        <source>Double-click a result, or press Enter, to open the file there</source>
+        <translation>Дважды щёлкните результат или нажмите Enter, чтобы открыть файл в этом месте</translation>
+    </message>
+    <message>
+        <source>&amp;Search for:</source>
+        <translation>&amp;Искать:</translation>
+    </message>
+    <message>
+        <source>&amp;Mode:</source>
+        <translation>&amp;Режим:</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Искомый текст</translation>
+    </message>
+    <message>
+        <source>A whole number, e.g. 42</source>
+        <translation>Целое число, например 42</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from -2147483648 to 2147483647.</source>
+        <translation>«%1» — не целое число от -2147483648 до 2147483647.</translation>
+    </message>
+    <message>
+        <source>Cannot search: %1</source>
+        <translation>Поиск невозможен: %1</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Идёт поиск…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Cancelled after %n file(s): </source>
+        <translation>
+            <numerusform>Отменено после %n файла: </numerusform>
+            <numerusform>Отменено после %n файлов: </numerusform>
+            <numerusform>Отменено после %n файлов: </numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) searched: </source>
+        <translation>
+            <numerusform>Просмотрен %n файл: </numerusform>
+            <numerusform>Просмотрено %n файла: </numerusform>
+            <numerusform>Просмотрено %n файлов: </numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing found.</source>
+        <translation>ничего не найдено.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s).</source>
+        <translation>
+            <numerusform>%n результат.</numerusform>
+            <numerusform>%n результата.</numerusform>
+            <numerusform>%n результатов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Could not read: %1</source>
+        <translation>Не удалось прочитать: %1</translation>
+    </message>
+    <message>
+        <source>Type the text to find.</source>
+        <translation>Введите искомый текст.</translation>
+    </message>
+</context>
+<context>
     <name>GameListing</name>
     <message>
         <source>In %1; a save writes a loose copy that overrides it</source>
@@ -1432,6 +1559,18 @@ Restore them (they open modified, not saved) or discard them?</source>
 %1
 
 Восстановить их (они откроются изменёнными, но не сохранёнными) или отбросить?</translation>
+    </message>
+    <message>
+        <source>Find in &amp;game files…</source>
+        <translation>Поиск по &amp;файлам игры…</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the game: rescan the files</source>
+        <translation>%1 больше нет в игре: пересканируйте файлы</translation>
+    </message>
+    <message>
+        <source>%1 has no entry %2 any more</source>
+        <translation>В %1 больше нет записи %2</translation>
     </message>
 </context>
 <context>

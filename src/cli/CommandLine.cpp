@@ -5,9 +5,12 @@
 #include "DatCommand.h"
 #include "DumpCommand.h"
 #include "ExportCommand.h"
+#include "FindCommand.h"
 #include "ModelChatter.h"
 #include "RoundtripCommand.h"
 
+#include <QDir>
+#include <QSettings>
 #include <QTextCodec>
 
 #include <cstdio>
@@ -51,15 +54,21 @@ CommandLine::CommandLine()
         "  dat list ARCHIVE              list the files of a game archive (.dat)\n"
         "  dat extract ARCHIVE OUTDIR [PATTERN...]  extract files (wildcards over their paths)\n"
         "  dat pack DIR ARCHIVE          pack every file below DIR into an archive\n"
-        "  dat verify ARCHIVE            check an archive as the engine reads it\n\n"
+        "  dat verify ARCHIVE            check an archive as the engine reads it\n"
+        "  find PATTERN [DIR]            texts of message and dialogue files holding PATTERN\n"
+        "  find --number N --as flag|var|script|message [DIR]  where the number is used\n"
+        "                                (find exits 0 when found, 1 when nothing was found)\n\n"
         "Exit status: 0 clean, 1 problems or differences, 2 usage or input/output error."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, encodingOption, fromOption, ditherOption,
                        fpsOption, actionOption, hotspotOption});
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, art or dat"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, art, find or dat"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
+
+    // find's options; --encoding applies to it as well.
+    parser.addOptions(FindCommand::options());
 }
 
 int CommandLine::run(const QStringList& arguments)
@@ -110,11 +119,21 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
         options.hotspot = parser.value(hotspotOption);
         return ArtCommand(options).run(operands);
     }
+    if (command == QLatin1String("find"))
+        return FindCommand(codec).run(parser, operands);
     if (command == QLatin1String("dat"))
         return DatCommand(parser.isSet(jsonOption)).run(operands);
     const QStringList known = {"check", "dump", "roundtrip", "export"};
     return usageError(known.contains(command) ? QStringLiteral("wrong number of arguments for %1").arg(command)
                                               : QStringLiteral("unknown command \"%1\"").arg(command));
+}
+
+QString CommandLine::baseDir(const QString& dir)
+{
+    if (!dir.isEmpty())
+        return dir;
+    const QSettings settings(QStringLiteral("qtLoreka.ini"), QSettings::IniFormat);
+    return QDir::cleanPath(settings.value(QStringLiteral("Directories/BaseDir"), QStringLiteral(".")).toString());
 }
 
 QTextCodec* CommandLine::mesCodec()

@@ -19,6 +19,9 @@ public:
     int run(const QStringList& arguments);
     // Prints the message and where to find help; returns Failure.
     static int usageError(const QString& message);
+    // The game folder a command works on: dir, or when empty the editor's base directory from
+    // "qtLoreka.ini" in the working directory, or the working directory itself.
+    static QString baseDir(const QString& dir);
 
 private:
     int dispatch(const QString& command, const QStringList& operands);
