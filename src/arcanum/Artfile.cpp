@@ -309,6 +309,12 @@ void Artfile::setAnimated(bool animated)
     combHeader();
 }
 
+void Artfile::setActionFrame(quint32 frame)
+{
+    animationWord = frame;
+    setHeaderWord(ANIMATION_WORD, frame);
+}
+
 // ---------------------------------------------------------------------------------------------
 // Palettes
 

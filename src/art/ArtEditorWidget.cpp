@@ -1,5 +1,6 @@
 #include "ArtEditorWidget.h"
 
+#include "ArtPreview.h"
 #include "Artfile.h"
 #include "Prompt.h"
 #include "gui.h"
@@ -137,20 +138,13 @@ QImage ArtEditorWidget::withTransparency(const QImage& indexed)
 {
     if (indexed.format() != QImage::Format_Indexed8 || indexed.colorCount() == 0)
         return indexed;
-    QImage keyed = indexed;
-    QVector<QRgb> table = keyed.colorTable();
-    const QRgb key = table.first();
-    for (QRgb& colour : table)
-        if (colour == key)
-            colour = qRgba(0, 0, 0, 0);
-    keyed.setColorTable(table);
-    QImage shown(keyed.size(), QImage::Format_ARGB32_Premultiplied);
+    QImage shown(indexed.size(), QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&shown);
     const int square = 8;
     for (int y = 0; y < shown.height(); y += square)
         for (int x = 0; x < shown.width(); x += square)
             painter.fillRect(x, y, square, square, ((x + y) / square) % 2 ? QColor(0xcc, 0xcc, 0xcc) : Qt::white);
-    painter.drawImage(0, 0, keyed);
+    painter.drawImage(0, 0, ArtPreview::withoutKey(indexed));
     return shown;
 }
 

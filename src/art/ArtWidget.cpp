@@ -2,11 +2,15 @@
 
 #include "FormatRegistry.h"
 
+#include "ArtAnimationWidget.h"
 #include "ArtDocument.h"
 #include "ArtEditorWidget.h"
 #include "ArtHeaderWidget.h"
+#include "ArtPreview.h"
 #include "WheelGuard.h"
 #include "ui_ArtWidget.h"
+
+#include <QTabWidget>
 
 namespace {
 const int FRAME_MERGE_ID = 4001;
@@ -22,8 +26,13 @@ ArtWidget::ArtWidget(QWidget* parent)
     header = new ArtHeaderWidget(this);
     header->setMaximumHeight(240);
     editor = new ArtEditorWidget(this);
+    animation = new ArtAnimationWidget(this);
+    auto* views = new QTabWidget(this);
+    views->setObjectName(QStringLiteral("tabsArtView"));
+    views->addTab(editor, tr("Frame"));
+    views->addTab(animation, tr("Animation"));
     ui->pageLayout->addWidget(header);
-    ui->pageLayout->addWidget(editor, 1);
+    ui->pageLayout->addWidget(views, 1);
 
     connect(header, &ArtHeaderWidget::selectionChanged, this, &ArtWidget::selectionChanged);
     connect(header, &ArtHeaderWidget::paletteEdited, this,
@@ -33,6 +42,28 @@ ArtWidget::ArtWidget(QWidget* parent)
     connect(editor, &ArtEditorWidget::edited, this, [this](uint image, uint frame) {
         recordEdit(tr("Edit frame %1 of image %2").arg(frame + 1).arg(image + 1), FRAME_MERGE_ID,
                    int(image * 10000 + frame));
+    });
+    connect(animation, &ArtAnimationWidget::frameRateEdited, this, [this](uint framesPerSecond) {
+        if (artDocument() != nullptr)
+            artDocument()->setFrameRate(framesPerSecond);
+    });
+    connect(animation, &ArtAnimationWidget::actionFrameEdited, this, [this](uint frame) {
+        if (artDocument() != nullptr)
+            artDocument()->setActionFrame(frame);
+    });
+    connect(animation, &ArtAnimationWidget::hotspotDragged, this, [this](uint image, uint frame, qint32 left, qint32 top) {
+        if (artDocument() != nullptr)
+            artDocument()->setHotspot(image, frame, left, top);
+    });
+    // The lists follow the preview while it stands still, so the frame tab shows the frame being looked at.
+    ArtPreview* preview = animation->preview();
+    connect(preview, &ArtPreview::frameChanged, this, [this, preview](int frame) {
+        if (!preview->isPlaying())
+            header->selectFrame(unsigned(frame));
+    });
+    connect(preview, &ArtPreview::playingChanged, this, [this, preview](bool playing) {
+        if (!playing)
+            header->selectFrame(unsigned(preview->frame()));
     });
     WheelGuard::install(this);
     refresh();
@@ -65,17 +96,22 @@ void ArtWidget::showDocument()
     if (ArtDocument* shown = artDocument()) {
         shown->beginEdit();
         // An undo or redo puts back a whole art file: the lists and the frame are shown again.
-        connect(shown, &Document::changed, this, &ArtWidget::refresh);
+        connect(shown, &Document::changed, this, [this] { refresh(true); });
         connect(shown, &Document::modifiedChanged, this, &ArtWidget::updateControls);
     }
     refresh();
 }
 
-void ArtWidget::refresh()
+void ArtWidget::refresh(bool keepPlace)
 {
     arcanum::Artfile* art = artDocument() ? &artDocument()->art() : &empty;
-    header->setArtfile(art);
+    if (keepPlace)
+        header->keepPlaceRefresh();
+    else
+        header->setArtfile(art);
     editor->setArtfile(art);
+    animation->setArtfile(art);
+    selectionChanged(header->currentPalette(), header->currentImage(), header->currentFrame());
     updateControls();
 }
 
@@ -91,6 +127,7 @@ void ArtWidget::updateControls()
     const bool loaded = shown != nullptr && shown->art().isLoaded();
     header->setEnabled(loaded);
     editor->setEnabled(loaded);
+    animation->setEnabled(loaded);
     ui->buttonSave->setEnabled(loaded && shown->isModified());
     ui->buttonSaveAs->setEnabled(loaded);
     ui->checkAnimated->setEnabled(loaded);
@@ -113,7 +150,10 @@ void ArtWidget::on_buttonSaveAs_clicked()
 
 void ArtWidget::selectionChanged(uint palette, uint image, uint frame)
 {
+    if (artDocument() == nullptr || !artDocument()->art().isLoaded())
+        return;
     editor->setFrame(palette, image, frame);
+    animation->setSelection(palette, image, frame);
 }
 
 QList<QWidget*> ArtWidget::fileControls() const

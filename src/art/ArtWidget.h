@@ -9,6 +9,7 @@ class ArtDocument;
 class Ui_ArtWidget;
 class ArtHeaderWidget;
 class ArtEditorWidget;
+class ArtAnimationWidget;
 
 // The Art tab: owns the art file on show, lists its parts above and shows the selected frame below.
 class ArtWidget : public Page
@@ -26,6 +27,7 @@ public:
     ArtDocument* artDocument() const;
     ArtHeaderWidget* headerWidget() const { return header; }
     ArtEditorWidget* editorWidget() const { return editor; }
+    ArtAnimationWidget* animationWidget() const { return animation; }
 
 protected:
     void showDocument() override;
@@ -39,7 +41,8 @@ private slots:
 private:
     // Records what the lists or the frame editor changed as one step named text.
     void recordEdit(const QString& text, int mergeId = -1, int key = 0);
-    void refresh();
+    // keepPlace: the same file changed, the selection stays; otherwise a file was opened or closed.
+    void refresh(bool keepPlace = false);
     void updateControls();
 
     std::unique_ptr<Ui_ArtWidget> ui;
@@ -47,4 +50,5 @@ private:
     arcanum::Artfile empty;
     ArtHeaderWidget* header = nullptr;
     ArtEditorWidget* editor = nullptr;
+    ArtAnimationWidget* animation = nullptr;
 };
