@@ -52,13 +52,20 @@ bool Artfile::Colour::operator==(const Colour& other) const
 Artfile::Image::Image()
     : width(16)
     , height(16)
-    , dataSize(256)
     , left(0)
     , top(0)
     , dx(0)
     , dy(0)
-    , data(256, '\0')
+    , data(ArtRunLength::pack(QByteArray(256, '\0')))
 {
+    dataSize = quint32(data.size());
+}
+
+bool Artfile::drawable(const Image& frame)
+{
+    const quint64 pixels = quint64(frame.width) * frame.height;
+    const bool unreachable = !frame.isRaw() && pixels > ArtRunLength::mostPixels(frame.dataSize);
+    return pixels != 0 && pixels <= MAX_FRAME_PIXELS && !unreachable;
 }
 
 void Artfile::Image::setData(quint32 newWidth, quint32 newHeight, const QByteArray& bytes)
@@ -303,6 +310,12 @@ bool Artfile::combHeader()
     return true;
 }
 
+void Artfile::setActionFrame(quint32 frame)
+{
+    animationWord = frame;
+    setHeaderWord(ANIMATION_WORD, frame);
+}
+
 void Artfile::setAnimated(bool animated)
 {
     animationWord = animated ? 2 : 0;
@@ -446,11 +459,7 @@ bool Artfile::convertTo(QImage& out, unsigned palette, unsigned image, unsigned 
         say("Cannot convertTo: wrong frame requested.");
         return false;
     }
-    // A run-length frame larger than its data could ever fill has a damaged size; drawing it would
-    // only cost memory and time for a picture that is nearly all blank.
-    const quint64 pixels = quint64(source->width) * source->height;
-    const bool unreachable = !source->isRaw() && pixels > ArtRunLength::mostPixels(source->dataSize);
-    if (pixels == 0 || pixels > MAX_FRAME_PIXELS || unreachable) {
+    if (!drawable(*source)) {
         say("Cannot convertTo: frame size out of range.");
         return false;
     }
@@ -463,23 +472,13 @@ bool Artfile::convertTo(QImage& out, unsigned palette, unsigned image, unsigned 
     for (unsigned i = 0; i < PALETTE_SIZE; ++i)
         table[int(i)] = palettes[palette][i].toRgb();
     result.setColorTable(table);
-    fillPixels(*source, result);
+    const QByteArray pixels = framePixels(image, frame);
+    for (int y = 0; y < result.height(); ++y)
+        std::copy_n(pixels.constData() + qsizetype(y) * result.width(), result.width(),
+                    reinterpret_cast<char*>(result.scanLine(y)));
     lastRunLength = !source->isRaw();
     out = result;
     return true;
-}
-
-void Artfile::fillPixels(const Image& frame, QImage& out) const
-{
-    const std::size_t width = frame.width;
-    std::vector<quint8> pixels(width * frame.height, 0);
-    if (frame.isRaw())
-        std::copy_n(reinterpret_cast<const quint8*>(frame.data.constData()),
-                    std::min(pixels.size(), std::size_t(frame.data.size())), pixels.begin());
-    else
-        ArtRunLength::decode(frame.data, pixels.data(), pixels.size());
-    for (int y = 0; y < out.height(); ++y)
-        std::copy_n(pixels.data() + std::size_t(y) * width, width, out.scanLine(y));
 }
 
 void Artfile::convertFrom(const QImage& source, unsigned image, unsigned frame, bool)
@@ -498,8 +497,33 @@ void Artfile::convertFrom(const QImage& source, unsigned image, unsigned frame, 
     bytes.reserve(qsizetype(width) * indexed.height());
     for (int y = 0; y < indexed.height(); ++y)
         bytes.append(reinterpret_cast<const char*>(indexed.constScanLine(y)), qsizetype(width));
-    images[image][frame].setData(quint32(indexed.width()), quint32(indexed.height()), bytes);
+    setFramePixels(image, frame, quint32(indexed.width()), quint32(indexed.height()), bytes);
+}
+
+bool Artfile::setFramePixels(unsigned image, unsigned frame, quint32 width, quint32 height, const QByteArray& indices)
+{
+    if (!isImage(image, frame) || quint64(width) * height != quint64(indices.size()) || indices.isEmpty())
+        return false;
+    images[image][frame].setData(width, height, ArtRunLength::pack(indices));
     combHeader();
+    return true;
+}
+
+QByteArray Artfile::framePixels(unsigned image, unsigned frame) const
+{
+    if (!isImage(image, frame))
+        return {};
+    const Image& source = images[image][frame];
+    if (!drawable(source))
+        return {};
+    const quint64 pixels = quint64(source.width) * source.height;
+    QByteArray out(qsizetype(pixels), '\0');
+    auto* target = reinterpret_cast<quint8*>(out.data());
+    if (source.isRaw())
+        std::copy_n(source.data.constData(), out.size(), out.data());
+    else
+        ArtRunLength::decode(source.data, target, std::size_t(pixels));
+    return out;
 }
 
 } // namespace arcanum

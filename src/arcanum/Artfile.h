@@ -114,11 +114,22 @@ public:
 
     bool combHeader();
     quint32 headerWord(unsigned offset) const;
+    // Frames per second the game plays the animation at (header word 4).
+    quint32 frameRate() const { return headerWord(4); }
+    void setFrameRate(quint32 framesPerSecond) { setHeaderWord(4, framesPerSecond); }
+    // The frame on which an attack or a spell takes effect (header word 28).
+    quint32 actionFrame() const { return animationWord; }
+    void setActionFrame(quint32 frame);
 
     // Frame as an 8-bit indexed image coloured with a palette; false (and out unchanged) on failure.
     bool convertTo(QImage& out, unsigned palette, unsigned image, unsigned frame);
-    // Replaces a frame's pixels and size by the indices of source; the frame becomes raw.
+    // Replaces a frame's pixels and size by the indices of source, stored as ArtRunLength::pack does.
     void convertFrom(const QImage& source, unsigned image, unsigned frame, bool);
+    // Replaces a frame's pixels (width × height palette indices, row after row) and size, stored run-length
+    // encoded when that is smaller; false for a frame that does not exist or indices of the wrong count.
+    bool setFramePixels(unsigned image, unsigned frame, quint32 width, quint32 height, const QByteArray& indices);
+    // The frame's palette indices, row after row; empty when the frame cannot be drawn (see convertTo).
+    QByteArray framePixels(unsigned image, unsigned frame) const;
     // Whether the frame last shown by convertTo was run-length encoded.
     bool lastConvertedWasRunLength() const { return lastRunLength; }
 
@@ -130,7 +141,9 @@ private:
     bool readFrameHeaders(const QByteArray& bytes, qsizetype& pos);
     bool readPixelData(const QByteArray& bytes, qsizetype& pos);
     bool fail(qsizetype offset, const QString& why);
-    void fillPixels(const Image& frame, QImage& out) const;
+    // Whether a frame's size is one a frame can have and its data could fill: larger frames are damaged
+    // headers, and drawing them would only cost memory and time for a picture that is nearly all blank.
+    static bool drawable(const Image& frame);
 
     std::string path;
     quint32 artTypeRead = 0;
