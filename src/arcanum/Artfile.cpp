@@ -322,12 +322,6 @@ void Artfile::setAnimated(bool animated)
     combHeader();
 }
 
-void Artfile::setActionFrame(quint32 frame)
-{
-    animationWord = frame;
-    setHeaderWord(ANIMATION_WORD, frame);
-}
-
 // ---------------------------------------------------------------------------------------------
 // Palettes
 

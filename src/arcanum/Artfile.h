@@ -88,12 +88,6 @@ public:
 
     bool isAnimated() const { return animationWord > 1; }
     void setAnimated(bool animated);
-    // Header word 4: how many frames a second the game plays.
-    quint32 frameRate() const { return headerWord(4); }
-    void setFrameRate(quint32 framesPerSecond) { setHeaderWord(4, framesPerSecond); }
-    // Header word 28: the frame on which an attack or a spell takes effect.
-    quint32 actionFrame() const { return animationWord; }
-    void setActionFrame(quint32 frame);
 
     Colour* getPalette(unsigned index);
     bool setPalette(unsigned index, const Colour (&colours)[PALETTE_SIZE]);
