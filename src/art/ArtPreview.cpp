@@ -56,6 +56,15 @@ QImage ArtPreview::withoutKey(const QImage& indexed)
     return keyed.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
+QImage ArtPreview::overCheckerboard(const QImage& image)
+{
+    QImage shown(image.size(), QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&shown);
+    painter.fillRect(shown.rect(), makeCheckerboard());
+    painter.drawImage(0, 0, image);
+    return shown;
+}
+
 // ---------------------------------------------------------------------------------------------
 // What is shown
 

@@ -27,6 +27,8 @@ public:
     static QPoint framePosition(QPoint anchor, const arcanum::Artfile::Image& frame);
     // The picture as the game draws it: entry 0, and every entry of exactly its colour, transparent.
     static QImage withoutKey(const QImage& indexed);
+    // The image over the checkerboard that stands for "nothing drawn here".
+    static QImage overCheckerboard(const QImage& image);
 
     // A new file, or the file changed: the cached pictures are dropped, the frame stays where it can.
     void setArtfile(arcanum::Artfile* file);

@@ -10,6 +10,13 @@
 #include "WheelGuard.h"
 #include "ui_ArtWidget.h"
 
+#include "ArtImageSource.h"
+#include "DialogImportImage.h"
+#include "Prompt.h"
+
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QTabWidget>
 
 namespace {
@@ -55,6 +62,7 @@ ArtWidget::ArtWidget(QWidget* parent)
         if (artDocument() != nullptr)
             artDocument()->setHotspot(image, frame, left, top);
     });
+    connect(editor, &ArtEditorWidget::importRequested, this, &ArtWidget::importPicture);
     // The lists follow the preview while it stands still, so the frame tab shows the frame being looked at.
     ArtPreview* preview = animation->preview();
     connect(preview, &ArtPreview::frameChanged, this, [this, preview](int frame) {
@@ -159,4 +167,92 @@ void ArtWidget::selectionChanged(uint palette, uint image, uint frame)
 QList<QWidget*> ArtWidget::fileControls() const
 {
     return {ui->labelFile, ui->buttonSave, ui->buttonSaveAs};
+}
+
+// ---------------------------------------------------------------------------------------------
+// Pictures coming in
+
+QString ArtWidget::importFolder() const
+{
+    if (!lastImportFolder.isEmpty())
+        return lastImportFolder;
+    return document() && !document()->path().isEmpty() ? QFileInfo(document()->path()).absolutePath() : QString();
+}
+
+bool ArtWidget::readPictures(ArtEditorWidget::ImportKind kind, QVector<QImage>& sources, QStringList& names)
+{
+    QString error;
+    if (kind == ArtEditorWidget::WholeImage) {
+        const QString folder = Prompt::existingDirectory(this, tr("Import a folder of pictures"), importFolder());
+        if (folder.isEmpty())
+            return false;
+        lastImportFolder = folder;
+        if (ArtImageSource::readFolder(folder, sources, names, error))
+            return true;
+    } else {
+        const QString path =
+            Prompt::openFileName(this, tr("Import image"), importFolder(), ArtImageSource::fileFilter());
+        if (path.isEmpty())
+            return false;
+        lastImportFolder = QFileInfo(path).absolutePath();
+        QImage picture;
+        if (ArtImageSource::readFile(path, picture, error)) {
+            sources = {picture};
+            names = QStringList(QFileInfo(path).fileName());
+            return true;
+        }
+    }
+    Prompt::message(this, QMessageBox::Warning, tr("Import image"), tr("Nothing was imported: %1.").arg(error));
+    return false;
+}
+
+void ArtWidget::importPicture(ArtEditorWidget::ImportKind kind)
+{
+    ArtDocument* shown = artDocument();
+    if (shown == nullptr || !shown->art().isLoaded())
+        return;
+    const unsigned palette = header->currentPalette();
+    const unsigned image = header->currentImage();
+    const unsigned frame = header->currentFrame();
+    QVector<QImage> sources;
+    QStringList names;
+    if (kind == ArtEditorWidget::Paste) {
+        const QImage pasted = QGuiApplication::clipboard()->image();
+        if (pasted.isNull()) {
+            Prompt::message(this, QMessageBox::Information, tr("Paste"), tr("The clipboard holds no picture."));
+            return;
+        }
+        // Indices from an 8-bit picture (a frame copied here) are kept as they are.
+        if (pasted.format() == QImage::Format_Indexed8) {
+            shown->replaceFrame(image, frame, pasted);
+            return;
+        }
+        sources = {pasted};
+        names = QStringList(tr("the clipboard"));
+    } else if (!readPictures(kind, sources, names)) {
+        return;
+    }
+    const arcanum::Artfile::Colour* colours = shown->art().getPalette(palette);
+    if (colours == nullptr)
+        return;
+    arcanum::Artfile::Palette copy;
+    std::copy_n(colours, arcanum::Artfile::PALETTE_SIZE, copy);
+    DialogImportImage dialog(copy, sources, names, this);
+    if (Prompt::run(dialog) != QDialog::Accepted)
+        return;
+    const QVector<QImage> indexed = dialog.indexedImages();
+    switch (kind) {
+    case ArtEditorWidget::ReplaceFrame:
+    case ArtEditorWidget::Paste:
+        shown->replaceFrame(image, frame, indexed.first());
+        break;
+    case ArtEditorWidget::NewFrame:
+        shown->insertFrame(image, frame, indexed.first());
+        header->selectFrame(frame + 1);
+        break;
+    case ArtEditorWidget::WholeImage:
+        shown->replaceImageFrames(image, indexed);
+        header->selectFrame(0);
+        break;
+    }
 }

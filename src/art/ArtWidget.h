@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ArtEditorWidget.h"
 #include "Artfile.h"
 #include "Page.h"
 
@@ -39,6 +40,10 @@ private slots:
     void selectionChanged(uint palette, uint image, uint frame);
 
 private:
+    // Reads the pictures kind asks for, shows them matched to the selected palette and puts them in.
+    void importPicture(ArtEditorWidget::ImportKind kind);
+    bool readPictures(ArtEditorWidget::ImportKind kind, QVector<QImage>& sources, QStringList& names);
+    QString importFolder() const;
     // Records what the lists or the frame editor changed as one step named text.
     void recordEdit(const QString& text, int mergeId = -1, int key = 0);
     // keepPlace: the same file changed, the selection stays; otherwise a file was opened or closed.
@@ -51,4 +56,6 @@ private:
     ArtHeaderWidget* header = nullptr;
     ArtEditorWidget* editor = nullptr;
     ArtAnimationWidget* animation = nullptr;
+    // Where the last picture was imported from.
+    QString lastImportFolder;
 };
