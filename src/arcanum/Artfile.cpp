@@ -248,25 +248,48 @@ quint64 Artfile::frameDataOffset(unsigned image, unsigned frame) const
 
 QByteArray Artfile::toBytes() const
 {
-    QByteArray out;
     if (images.empty())
-        return out;
-    out.append(reinterpret_cast<const char*>(header.data()), HEADER_SIZE);
+        return {};
+    std::vector<QByteArray> paletteBytes;
     for (unsigned p = 0; p < paletteCount; ++p)
-        appendPalette(out, palettes[p]);
-    for (const std::vector<Image>& frames : images) {
-        for (const Image& frame : frames) {
+        paletteBytes.push_back(paletteToBytes(palettes[p]));
+    return assemble(headerBytes(), paletteBytes, images, trailer);
+}
+
+QByteArray Artfile::headerBytes() const
+{
+    return QByteArray(reinterpret_cast<const char*>(header.data()), HEADER_SIZE);
+}
+
+QByteArray Artfile::assemble(const QByteArray& header, const std::vector<QByteArray>& paletteBytes,
+                             const std::vector<std::vector<Image>>& frames, const QByteArray& trailer)
+{
+    QByteArray out = header;
+    for (const QByteArray& palette : paletteBytes)
+        out.append(palette);
+    for (const std::vector<Image>& row : frames) {
+        for (const Image& frame : row) {
             for (quint32 word : {frame.width, frame.height, frame.dataSize, quint32(frame.left), quint32(frame.top),
                                  quint32(frame.dx), quint32(frame.dy)})
                 le::appendUInt32(out, word);
         }
     }
-    for (const std::vector<Image>& frames : images) {
-        for (const Image& frame : frames)
+    for (const std::vector<Image>& row : frames) {
+        for (const Image& frame : row)
             out.append(frame.data);
     }
     out.append(trailer);
     return out;
+}
+
+QVector<QRgb> Artfile::colourTable(const Palette& colours, bool transparentKey)
+{
+    QVector<QRgb> table(PALETTE_SIZE);
+    for (unsigned i = 0; i < PALETTE_SIZE; ++i)
+        table[int(i)] = colours[i].toRgb();
+    if (transparentKey)
+        table[0] &= 0xFFFFFFu;
+    return table;
 }
 
 bool Artfile::save(const QString& target)
@@ -462,10 +485,7 @@ bool Artfile::convertTo(QImage& out, unsigned palette, unsigned image, unsigned 
         say("Cannot convertTo: out of memory.");
         return false;
     }
-    QVector<QRgb> table(PALETTE_SIZE);
-    for (unsigned i = 0; i < PALETTE_SIZE; ++i)
-        table[int(i)] = palettes[palette][i].toRgb();
-    result.setColorTable(table);
+    result.setColorTable(colourTable(palettes[palette], false));
     const QByteArray pixels = framePixels(image, frame);
     for (int y = 0; y < result.height(); ++y)
         std::copy_n(pixels.constData() + qsizetype(y) * result.width(), result.width(),

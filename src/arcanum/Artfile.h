@@ -22,6 +22,9 @@ public:
     static constexpr unsigned PALETTE_SIZE = 256;
     static constexpr unsigned PALETTE_BYTES = 1024;
     static constexpr unsigned MAX_PALETTES = 4;
+    // Larger frames are damaged headers, not sprites; refusing them keeps one bad word from asking for
+    // gigabytes.
+    static constexpr quint64 MAX_FRAME_PIXELS = quint64(1) << 26;
 
     // One palette entry in file order: blue, green, red and a fourth byte the game leaves alone.
     struct Colour
@@ -98,6 +101,19 @@ public:
     // The 1024 bytes of a palette file; fromPaletteBytes reads as many whole entries as there are.
     static QByteArray paletteToBytes(const Colour (&colours)[PALETTE_SIZE]);
     static void paletteFromBytes(const QByteArray& bytes, Colour (&colours)[PALETTE_SIZE]);
+
+    // Read-only views for writers of other forms; image and frame must exist (isImage), palette be below
+    // getPaletteCount.
+    const Image& frameAt(unsigned image, unsigned frame) const { return images[image][frame]; }
+    const Palette& paletteAt(unsigned palette) const { return palettes[palette]; }
+    // The 132 header bytes as they will be written, and the bytes kept after the last frame.
+    QByteArray headerBytes() const;
+    const QByteArray& trailerBytes() const { return trailer; }
+    // The bytes of a file of these parts, in the game's order; the header must hold their counts.
+    static QByteArray assemble(const QByteArray& header, const std::vector<QByteArray>& paletteBytes,
+                               const std::vector<std::vector<Image>>& frames, const QByteArray& trailer);
+    // The palette as a colour table; with transparentKey, entry 0 has alpha 0 as the game leaves it undrawn.
+    static QVector<QRgb> colourTable(const Palette& colours, bool transparentKey);
 
     Image* getImage(unsigned image, unsigned frame);
     bool isImage(unsigned image, unsigned frame) const;

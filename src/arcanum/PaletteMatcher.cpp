@@ -100,7 +100,7 @@ PaletteMatcher::PaletteMatcher(const Artfile::Colour (&palette)[Artfile::PALETTE
         }
         colours[int(i)] = rgb;
         const Lab lab = toLab(rgb);
-        entries.push_back({lab, std::hypot(lab.a, lab.b), quint8(i)});
+        entries.push_back({lab, std::sqrt(lab.a * lab.a + lab.b * lab.b), quint8(i)});
     }
     std::stable_sort(entries.begin(), entries.end(),
                      [](const Entry& x, const Entry& y) { return x.lab.l < y.lab.l; });
@@ -115,8 +115,8 @@ PaletteMatcher::Lab PaletteMatcher::toLab(QRgb colour)
 
 float PaletteMatcher::distance94(const Lab& reference, const Lab& other)
 {
-    const float c1 = std::hypot(reference.a, reference.b);
-    const float c2 = std::hypot(other.a, other.b);
+    const float c1 = std::sqrt(reference.a * reference.a + reference.b * reference.b);
+    const float c2 = std::sqrt(other.a * other.a + other.b * other.b);
     const float sc = 1.0f + K1 * c1;
     const float sh = 1.0f + K2 * c1;
     const float dl = reference.l - other.l;
@@ -130,7 +130,7 @@ float PaletteMatcher::distance94(const Lab& reference, const Lab& other)
 int PaletteMatcher::search(const Lab& lab, int hint) const
 {
     const int count = int(entries.size());
-    const float c1 = std::hypot(lab.a, lab.b);
+    const float c1 = std::sqrt(lab.a * lab.a + lab.b * lab.b);
     const float chromaWeight = 1.0f / ((1.0f + K1 * c1) * (1.0f + K1 * c1));
     const float hueWeight = 1.0f / ((1.0f + K2 * c1) * (1.0f + K2 * c1));
     const auto distance = [&](const Entry& e) {

@@ -17,10 +17,11 @@ public:
 
     CommandLine();
     int run(const QStringList& arguments);
+    // Prints the message and where to find help; returns Failure.
+    static int usageError(const QString& message);
 
 private:
     int dispatch(const QString& command, const QStringList& operands);
-    int usageError(const QString& message);
     QTextCodec* mesCodec();
 
     QCommandLineParser parser;
@@ -29,4 +30,9 @@ private:
     QCommandLineOption formatOption;
     QCommandLineOption sheetOption;
     QCommandLineOption encodingOption;
+    QCommandLineOption fromOption;
+    QCommandLineOption ditherOption;
+    QCommandLineOption fpsOption;
+    QCommandLineOption actionOption;
+    QCommandLineOption hotspotOption;
 };
