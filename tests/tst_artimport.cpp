@@ -226,9 +226,9 @@ private slots:
         qToLittleEndian<quint16>(1, huge.data() + 26);
         qToLittleEndian<quint16>(24, huge.data() + 28);
         QTest::newRow("larger than a frame") << "actionImportReplace" << "huge.bmp" << huge
-                                             << "larger than a frame can hold";
+                                             << "is larger than a frame can hold";
         QTest::newRow("not a picture") << "actionImportNewFrame" << "broken.png" << QByteArray("\x89PNG junk")
-                                       << "cannot be read as a picture";
+                                       << "cannot be read as an image";
         QTest::newRow("empty folder") << "actionImportFolder" << "" << QByteArray() << "holds no pictures";
     }
 
@@ -252,6 +252,69 @@ private slots:
         QVERIFY2(said.contains(QDir::toNativeSeparators(target)) && said.contains(reason), qPrintable(said));
         QCOMPARE(art(*page).toBytes(), before);
         QVERIFY(!page->document()->isModified());
+    }
+
+    void exportedFolderImportsBackAsOneStep()
+    {
+        auto page = openPage(2);
+        const QByteArray original = art(*page).toBytes();
+        QTemporaryDir folder;
+        ScriptedAnswerer answers;
+        answers.fileNames << folder.path();
+        trigger(*page, "actionExportSheet");
+        QCOMPARE(answers.last(QStringLiteral("message"))->icon, QMessageBox::Information);
+        QVERIFY(!QDir(folder.path()).entryList({QStringLiteral("*.json")}).isEmpty());
+
+        page->artDocument()->setHotspot(0, 0, 7, 7);
+        answers.fileNames << folder.path();
+        QTest::mouseClick(page->findChild<QPushButton*>(QStringLiteral("buttonImportFolder")), Qt::LeftButton);
+        QCOMPARE(art(*page).toBytes(), original);
+        QCOMPARE(page->document()->undoStack()->count(), 2);
+        page->document()->undoStack()->undo();
+        QCOMPARE(art(*page).getImage(0, 0)->left, 7);
+
+        // A folder that is no art folder: said in the window, nothing changes.
+        QTemporaryDir empty;
+        answers.fileNames << empty.path();
+        const QByteArray before = art(*page).toBytes();
+        QTest::mouseClick(page->findChild<QPushButton*>(QStringLiteral("buttonImportFolder")), Qt::LeftButton);
+        QCOMPARE(answers.last(QStringLiteral("message"))->icon, QMessageBox::Warning);
+        QVERIFY(answers.last(QStringLiteral("message"))->text.startsWith(QStringLiteral("Nothing was imported")));
+        QCOMPARE(art(*page).toBytes(), before);
+    }
+
+    void newArtFromAFolderOfDirections()
+    {
+        QTemporaryDir folder;
+        for (int direction = 0; direction < 8; ++direction) {
+            const QString sub = QStringLiteral("dir%1").arg(direction);
+            QVERIFY(QDir(folder.path()).mkdir(sub));
+            for (int frame = 0; frame < 2; ++frame) {
+                QImage picture(5, 4, QImage::Format_ARGB32);
+                picture.fill(Qt::transparent);
+                picture.setPixel(2, 3, qRgb(40 * direction, 100 + 50 * frame, 10));
+                QVERIFY(picture.save(folder.filePath(QStringLiteral("%1/f%2.png").arg(sub).arg(frame))));
+            }
+        }
+        ArtWidget page;
+        ScriptedAnswerer answers;
+        answers.fileNames << folder.path();
+        QVERIFY(page.newFromImages());
+        QVERIFY(page.document() != nullptr);
+        QVERIFY(page.document()->path().isEmpty());
+        QVERIFY(page.document()->isModified());
+        QCOMPARE(art(page).getImageCount(), 8u);
+        QCOMPARE(art(page).getFrameCount(), 2u);
+        const QByteArray pixels = art(page).framePixels(3, 1);
+        QCOMPARE(pixels.at(0), char(0));
+        QCOMPARE(art(page).getPalette(0)[quint8(pixels.at(2 + 3 * 5))].toRgb(), qRgb(120, 150, 10));
+
+        // A folder without pictures makes nothing and says so.
+        QTemporaryDir empty;
+        answers.fileNames << empty.path();
+        QVERIFY(!page.newFromImages());
+        QVERIFY(answers.last(QStringLiteral("message"))->text.contains(QDir::toNativeSeparators(empty.path())));
+        QCOMPARE(art(page).getImageCount(), 8u);
     }
 
     void cancelledDialogChangesNothing()

@@ -371,7 +371,7 @@ private slots:
         QCOMPARE(art.getFrameCount(), 4u);
         const Artfile::Image* added = const_cast<Artfile&>(art).getImage(1, 1);
         QCOMPARE(added->width, 6u);
-        QCOMPARE(added->data, QByteArray(30, char(9)));
+        QCOMPARE(art.framePixels(1, 1), QByteArray(30, char(9)));
         QCOMPARE(added->left, 3);
         QCOMPARE(added->top, 4);
         QCOMPARE(const_cast<Artfile&>(art).getImage(1, 3)->data, third);

@@ -188,6 +188,15 @@ void MainWindow::createMenus()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addActions({actionOpen, actionSave, actionSaveAs});
     file->addSeparator();
+    QMenu* art = file->addMenu(tr("A&rt"));
+    art->setObjectName(QStringLiteral("menuArt"));
+    QAction* newArt = art->addAction(tr("&New art from images…"));
+    newArt->setObjectName(QStringLiteral("actionNewArtFromImages"));
+    connect(newArt, &QAction::triggered, this, [this] {
+        showPage(artWidget);
+        artWidget->newFromImages();
+    });
+    file->addSeparator();
     file->addAction(ui->actionConfigure);
     file->addSeparator();
     file->addActions({ui->actionExit, actionQuit});

@@ -137,6 +137,15 @@ void ArtDocument::replaceImageFrames(unsigned image, const QVector<QImage>& inde
     });
 }
 
+void ArtDocument::replaceAll(const arcanum::Artfile& art)
+{
+    edit(tr("Import art folder"), [&art](arcanum::Artfile& model) {
+        const std::string kept = model.getPath();
+        model = art;
+        model.setPath(kept);
+    });
+}
+
 void ArtDocument::moveLastFrameTo(unsigned position)
 {
     const unsigned last = model.getFrameCount() - 1;

@@ -41,6 +41,8 @@ public:
     // The frames of one image, in order, become the pictures; frames are added to every image when
     // there are more pictures than frames, and frames past the pictures stay as they are.
     void replaceImageFrames(unsigned image, const QVector<QImage>& indexed);
+    // Everything of the file becomes what art holds (an art folder read back); the path stays.
+    void replaceAll(const arcanum::Artfile& art);
 
 protected:
     void restoreModel(const QByteArray& bytes) override;

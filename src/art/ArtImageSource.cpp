@@ -1,5 +1,7 @@
 #include "ArtImageSource.h"
 
+#include "ArtImageFile.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
@@ -56,28 +58,6 @@ QString ArtImageSource::fileFilter()
     return tr("Images (%1);;All files (*)").arg(imagePatterns().join(QLatin1Char(' ')));
 }
 
-bool ArtImageSource::readFile(const QString& path, QImage& image, QString& error)
-{
-    const QString name = QDir::toNativeSeparators(path);
-    QImageReader reader(path);
-    const QSize size = reader.size();
-    if (size.isValid() && qint64(size.width()) * size.height() > MAX_PIXELS) {
-        error = tr("%1 is %2 × %3 pixels: larger than a frame can hold").arg(name).arg(size.width()).arg(size.height());
-        return false;
-    }
-    QImage read;
-    if (!reader.read(&read)) {
-        error = tr("%1 cannot be read as a picture: %2").arg(name, reader.errorString());
-        return false;
-    }
-    if (qint64(read.width()) * read.height() > MAX_PIXELS) {
-        error = tr("%1 is %2 × %3 pixels: larger than a frame can hold").arg(name).arg(read.width()).arg(read.height());
-        return false;
-    }
-    image = read;
-    return true;
-}
-
 bool ArtImageSource::readFolder(const QString& folder, QVector<QImage>& images, QStringList& names, QString& error)
 {
     QDir dir(folder);
@@ -90,7 +70,7 @@ bool ArtImageSource::readFolder(const QString& folder, QVector<QImage>& images, 
     QVector<QImage> read;
     for (const QString& file : files) {
         QImage image;
-        if (!readFile(dir.filePath(file), image, error))
+        if (!arcanum::ArtImageFile::read(dir.filePath(file), image, error))
             return false;
         read.append(image);
     }

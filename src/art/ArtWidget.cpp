@@ -10,13 +10,19 @@
 #include "WheelGuard.h"
 #include "ui_ArtWidget.h"
 
+#include "ArtFolder.h"
+#include "ArtImageFile.h"
+#include "ArtMaker.h"
 #include "ArtImageSource.h"
 #include "DialogImportImage.h"
 #include "Prompt.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMenu>
+#include <QPushButton>
 #include <QTabWidget>
 
 namespace {
@@ -62,6 +68,7 @@ ArtWidget::ArtWidget(QWidget* parent)
         if (artDocument() != nullptr)
             artDocument()->setHotspot(image, frame, left, top);
     });
+    addFolderButtons();
     connect(editor, &ArtEditorWidget::importRequested, this, &ArtWidget::importPicture);
     // The lists follow the preview while it stands still, so the frame tab shows the frame being looked at.
     ArtPreview* preview = animation->preview();
@@ -138,6 +145,8 @@ void ArtWidget::updateControls()
     animation->setEnabled(loaded);
     ui->buttonSave->setEnabled(loaded && shown->isModified());
     ui->buttonSaveAs->setEnabled(loaded);
+    if (!folderButtons.isEmpty())
+        folderButtons.first()->setEnabled(loaded);
     ui->checkAnimated->setEnabled(loaded);
     ui->checkAnimated->setChecked(loaded && shown->art().isAnimated());
     if (loaded)
@@ -172,7 +181,7 @@ QList<QWidget*> ArtWidget::fileControls() const
 // ---------------------------------------------------------------------------------------------
 // Pictures coming in
 
-QString ArtWidget::importFolder() const
+QString ArtWidget::pictureFolder() const
 {
     if (!lastImportFolder.isEmpty())
         return lastImportFolder;
@@ -183,7 +192,7 @@ bool ArtWidget::readPictures(ArtEditorWidget::ImportKind kind, QVector<QImage>& 
 {
     QString error;
     if (kind == ArtEditorWidget::WholeImage) {
-        const QString folder = Prompt::existingDirectory(this, tr("Import a folder of pictures"), importFolder());
+        const QString folder = Prompt::existingDirectory(this, tr("Import a folder of pictures"), pictureFolder());
         if (folder.isEmpty())
             return false;
         lastImportFolder = folder;
@@ -191,12 +200,12 @@ bool ArtWidget::readPictures(ArtEditorWidget::ImportKind kind, QVector<QImage>& 
             return true;
     } else {
         const QString path =
-            Prompt::openFileName(this, tr("Import image"), importFolder(), ArtImageSource::fileFilter());
+            Prompt::openFileName(this, tr("Import image"), pictureFolder(), ArtImageSource::fileFilter());
         if (path.isEmpty())
             return false;
         lastImportFolder = QFileInfo(path).absolutePath();
         QImage picture;
-        if (ArtImageSource::readFile(path, picture, error)) {
+        if (arcanum::ArtImageFile::read(path, picture, error)) {
             sources = {picture};
             names = QStringList(QFileInfo(path).fileName());
             return true;
@@ -255,4 +264,118 @@ void ArtWidget::importPicture(ArtEditorWidget::ImportKind kind)
         header->selectFrame(0);
         break;
     }
+}
+
+// ---------------------------------------------------------------------------------------------
+// Art folders and new art
+
+void ArtWidget::addFolderButtons()
+{
+    auto* exportButton = new QPushButton(tr("Export…"), this);
+    exportButton->setObjectName(QStringLiteral("buttonExportFolder"));
+    exportButton->setToolTip(tr("Write every frame as a PNG with the selected palette, plus a JSON file that "
+                                "keeps the rest: importing the folder gives this file back"));
+    auto* menu = new QMenu(exportButton);
+    QAction* frames = menu->addAction(tr("One PNG per frame…"));
+    frames->setObjectName(QStringLiteral("actionExportFrames"));
+    connect(frames, &QAction::triggered, this, [this] { exportFolder(false); });
+    QAction* sheet = menu->addAction(tr("One sprite sheet (images as rows, frames as columns)…"));
+    sheet->setObjectName(QStringLiteral("actionExportSheet"));
+    connect(sheet, &QAction::triggered, this, [this] { exportFolder(true); });
+    exportButton->setMenu(menu);
+    auto* importButton = new QPushButton(tr("Import…"), this);
+    importButton->setObjectName(QStringLiteral("buttonImportFolder"));
+    importButton->setToolTip(tr("Read a folder written by Export (its PNGs may have been edited) into this file"));
+    connect(importButton, &QPushButton::clicked, this, &ArtWidget::importFolder);
+    const int at = ui->fileLayout->indexOf(ui->buttonSave);
+    ui->fileLayout->insertWidget(at, importButton);
+    ui->fileLayout->insertWidget(at, exportButton);
+    folderButtons = {exportButton, importButton};
+}
+
+bool ArtWidget::exportFolder(bool sheet)
+{
+    ArtDocument* shown = artDocument();
+    if (shown == nullptr || !shown->art().isLoaded())
+        return false;
+    const QString dir = Prompt::existingDirectory(this, tr("Export art to folder"), pictureFolder());
+    if (dir.isEmpty())
+        return false;
+    lastImportFolder = dir;
+    const QString name = shown->path().isEmpty() ? tr("untitled") : QFileInfo(shown->path()).completeBaseName();
+    QString error;
+    if (!arcanum::ArtFolder::write(shown->art(), name, dir, {sheet, header->currentPalette()}, error)) {
+        Prompt::message(this, QMessageBox::Warning, tr("Export"), tr("Nothing was exported: %1.").arg(error));
+        return false;
+    }
+    Prompt::message(this, QMessageBox::Information, tr("Export"),
+                    tr("%1 written to %2.").arg(name, QDir::toNativeSeparators(dir)));
+    return true;
+}
+
+bool ArtWidget::importFolder()
+{
+    const QString dir = Prompt::existingDirectory(this, tr("Import art folder"), pictureFolder());
+    if (dir.isEmpty())
+        return false;
+    lastImportFolder = dir;
+    arcanum::Artfile read;
+    QString error;
+    if (!arcanum::ArtFolder::read(dir, read, error)) {
+        Prompt::message(this, QMessageBox::Warning, tr("Import"), tr("Nothing was imported: %1.").arg(error));
+        return false;
+    }
+    if (artDocument() != nullptr && artDocument()->art().isLoaded())
+        artDocument()->replaceAll(read);
+    else
+        showUnsaved(read);
+    return true;
+}
+
+bool ArtWidget::newFromImages()
+{
+    const QString dir = Prompt::existingDirectory(this, tr("New art from images"), pictureFolder());
+    if (dir.isEmpty())
+        return false;
+    lastImportFolder = dir;
+    std::vector<std::vector<QImage>> images;
+    QString error;
+    const QStringList directions = QDir(dir).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    bool read = true;
+    if (directions.isEmpty()) {
+        QVector<QImage> pictures;
+        QStringList names;
+        read = ArtImageSource::readFolder(dir, pictures, names, error);
+        for (const QImage& picture : pictures)
+            images.push_back({picture});
+    } else {
+        for (const QString& direction : directions) {
+            QVector<QImage> pictures;
+            QStringList names;
+            read = read && ArtImageSource::readFolder(QDir(dir).filePath(direction), pictures, names, error);
+            images.emplace_back(pictures.begin(), pictures.end());
+        }
+    }
+    arcanum::Artfile made;
+    if (!read || !arcanum::ArtMaker::make(images, arcanum::ArtMaker::Settings(), made, error)) {
+        Prompt::message(this, QMessageBox::Warning, tr("New art from images"),
+                        tr("No art file was made: %1.").arg(error));
+        return false;
+    }
+    if (!settle())
+        return false;
+    showUnsaved(made);
+    return true;
+}
+
+void ArtWidget::showUnsaved(const arcanum::Artfile& art)
+{
+    QString error;
+    std::unique_ptr<Document> made = ArtDocument::fromBytes(QString(), art.toBytes(), error);
+    if (!made) {
+        Prompt::message(this, QMessageBox::Warning, tr("New art"), error);
+        return;
+    }
+    made->markUnsaved();
+    setDocument(std::move(made));
 }

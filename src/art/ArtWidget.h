@@ -30,6 +30,16 @@ public:
     ArtEditorWidget* editorWidget() const { return editor; }
     ArtAnimationWidget* animationWidget() const { return animation; }
 
+    // Asks for a folder of pictures and shows a new, unsaved art file made of them with a palette of
+    // their own: pictures directly in the folder are images of one frame each; subfolders are directions,
+    // their pictures the frames. False when cancelled or refused (after saying why).
+    bool newFromImages();
+    // The lossless folder form: every frame as an indexed PNG (or one sprite sheet) plus JSON.
+    bool exportFolder(bool sheet);
+    // Reads a folder written by exportFolder into the shown file as one step (into a new file when none
+    // is open).
+    bool importFolder();
+
 protected:
     void showDocument() override;
     QList<QWidget*> fileControls() const override;
@@ -43,7 +53,10 @@ private:
     // Reads the pictures kind asks for, shows them matched to the selected palette and puts them in.
     void importPicture(ArtEditorWidget::ImportKind kind);
     bool readPictures(ArtEditorWidget::ImportKind kind, QVector<QImage>& sources, QStringList& names);
-    QString importFolder() const;
+    QString pictureFolder() const;
+    void addFolderButtons();
+    // Shows art as a new file that has no name yet.
+    void showUnsaved(const arcanum::Artfile& art);
     // Records what the lists or the frame editor changed as one step named text.
     void recordEdit(const QString& text, int mergeId = -1, int key = 0);
     // keepPlace: the same file changed, the selection stays; otherwise a file was opened or closed.
@@ -56,6 +69,7 @@ private:
     ArtHeaderWidget* header = nullptr;
     ArtEditorWidget* editor = nullptr;
     ArtAnimationWidget* animation = nullptr;
+    QList<QWidget*> folderButtons;
     // Where the last picture was imported from.
     QString lastImportFolder;
 };
