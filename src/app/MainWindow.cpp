@@ -5,6 +5,7 @@
 #include "PageFrame.h"
 
 #include "ArtModel.h"
+#include "ArtThumbnails.h"
 #include "ArtWidget.h"
 #include "DamageBanner.h"
 #include "DialogAbout.h"
@@ -311,6 +312,7 @@ void MainWindow::createArtTree()
 {
     artModel = new ArtModel(this);
     ui->artTree->setModel(artModel);
+    ui->artTree->setIconSize(QSize(ArtThumbnails::SIDE, ArtThumbnails::SIDE));
 }
 
 QString MainWindow::fullPath(const QString& subDir, const QString& name) const
