@@ -251,7 +251,10 @@ QSize ArtPreview::cellSize() const
 int ArtPreview::columnsFor(int width) const
 {
     const int count = std::max(1, int(shownImages().size()));
-    return std::clamp(width / std::max(1, cellSize().width()), 1, count);
+    const int fitting = std::clamp(width / std::max(1, cellSize().width()), 1, count);
+    // Rows of equal length: eight directions that do not fit in one row become two rows of four.
+    const int rows = (count + fitting - 1) / fitting;
+    return (count + rows - 1) / rows;
 }
 
 QRect ArtPreview::cellRect(int index) const
