@@ -1,10 +1,13 @@
 #include "BenchCases.h"
 
 #include "ArtPreview.h"
+#include "ArtFolder.h"
+#include "ArtMaker.h"
 #include "Artfile.h"
 #include "DatArchive.h"
 #include "DatWriter.h"
 #include "GameView.h"
+#include "PaletteMatcher.h"
 #include "BenchInputs.h"
 #include "DialogueFileNew.h"
 #include "FormatRegistry.h"
@@ -26,6 +29,8 @@
 #include <benchmark/benchmark.h>
 #include <zlib.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <functional>
 #include <memory>
@@ -242,6 +247,97 @@ void addArtPreview(Registrar& r, const QString& game)
                   [prepare] { return prepare(true); });
     r.addPrepared("art preview: the same, first loop (converting)", pixels, Goal::None, 0,
                   [prepare] { return prepare(false); });
+// A rendered creature as an artist hands it over: a shaded body with a little grain on a clear ground.
+QImage renderedSprite(int side, int variant)
+{
+    QImage image(side, side, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    quint32 grain = 12345u + quint32(variant);
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            const double dx = (x - side / 2.0) / (side * 0.4);
+            const double dy = (y - side / 2.0) / (side * 0.45) + 0.05 * std::sin(variant * 0.4 + x * 0.05);
+            if (dx * dx + dy * dy > 1)
+                continue;
+            grain = grain * 1664525u + 1013904223u;
+            const int jitter = int(grain >> 29) - 4;
+            const double light = std::clamp(0.25 + 0.75 * (0.6 * std::sqrt(1 - dx * dx - dy * dy) - 0.3 * dx - 0.3 * dy),
+                                            0.0, 1.0);
+            image.setPixel(x, y, qRgb(std::clamp(int(190 * light) + 30 + jitter, 0, 255),
+                                      std::clamp(int(150 * light) + 20 - jitter, 0, 255),
+                                      std::clamp(int(110 * light + 40 * dx * dx) + jitter / 2, 0, 255)));
+        }
+    }
+    return image;
+}
+
+QImage noiseImage(int side)
+{
+    QImage image(side, side, QImage::Format_RGB32);
+    quint32 state = 99u;
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            state = state * 1664525u + 1013904223u;
+            image.setPixel(x, y, state >> 8);
+        }
+    }
+    return image;
+}
+
+constexpr int MADE_SIDE = 256;
+constexpr int MADE_FRAMES = 64;
+
+std::vector<std::vector<QImage>> madeDirections()
+{
+    std::vector<std::vector<QImage>> directions(8);
+    for (int f = 0; f < MADE_FRAMES; ++f)
+        directions[std::size_t(f % 8)].push_back(renderedSprite(MADE_SIDE, f));
+    return directions;
+}
+
+// Matching true colour to a palette (the import dialog, paste) and the two ways frames come in from a folder.
+void addArtMaking(Registrar& r, const QString& out)
+{
+    const double framePixels = double(MADE_SIDE) * MADE_SIDE;
+    const auto matching = [](QImage image, bool dither) -> Registrar::Body {
+        arcanum::Artfile::Palette palette{};
+        QString error;
+        const QImage reference = renderedSprite(MADE_SIDE, 0);
+        arcanum::ArtMaker::quantize({&reference}, palette, error);
+        auto matcher = std::make_shared<arcanum::PaletteMatcher>(palette);
+        return [matcher, image, dither] {
+            benchmark::DoNotOptimize(matcher->match(image, dither).indices.constData());
+        };
+    };
+    r.addPrepared("art match 256 x 256 sprite (pixels)", framePixels, Goal::Pixels, 20,
+                  [matching] { return matching(renderedSprite(MADE_SIDE, 3), false); });
+    r.addPrepared("art match sprite, dithered (pixels)", framePixels, Goal::None, 0,
+                  [matching] { return matching(renderedSprite(MADE_SIDE, 3), true); });
+    r.addPrepared("art match noise, every pixel new (pixels)", framePixels, Goal::None, 0,
+                  [matching] { return matching(noiseImage(MADE_SIDE), false); });
+    const double folderPixels = framePixels * MADE_FRAMES;
+    const QString folder = out + QStringLiteral("/art-folder");
+    r.addPrepared("art import, 64-frame folder", folderPixels, Goal::Seconds, 1.0, [folder]() -> Registrar::Body {
+        arcanum::Artfile art;
+        QString error;
+        arcanum::ArtMaker::make(madeDirections(), {}, art, error);
+        arcanum::ArtFolder::write(art, QStringLiteral("made"), folder, {}, error);
+        return [folder] {
+            arcanum::Artfile back;
+            QString why;
+            arcanum::ArtFolder::read(folder, back, why);
+            benchmark::DoNotOptimize(back.getImageCount());
+        };
+    });
+    r.addPrepared("art from 64 images (palette made)", folderPixels, Goal::Seconds, 1.0, []() -> Registrar::Body {
+        auto directions = std::make_shared<std::vector<std::vector<QImage>>>(madeDirections());
+        return [directions] {
+            arcanum::Artfile art;
+            QString error;
+            arcanum::ArtMaker::make(*directions, {}, art, error);
+            benchmark::DoNotOptimize(art.getImageCount());
+        };
+    });
 }
 
 void addProtos(Registrar& r, const QString& game, const QString& out)
@@ -468,6 +564,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addScript(r, gameDir, outDir);
     addArt(r, gameDir, outDir);
     addArtPreview(r, gameDir);
+    addArtMaking(r, outDir);
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
     addArchives(r, outDir);

@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <algorithm>
 #include <optional>
@@ -22,6 +23,9 @@ const QString KIND = QStringLiteral("loreka art folder");
 constexpr int VERSION = 1;
 const QString RAW = QStringLiteral("raw");
 const QString RUN_LENGTH = QStringLiteral("run-length");
+// The description of 8 directions × 64 run-length frames of 256 × 256 is under 30 MB; one many times
+// larger is not an export of ours, and reading it whole could take all memory.
+constexpr qint64 MAX_DESCRIPTION_BYTES = qint64(512) << 20;
 
 QString base64(const QByteArray& bytes)
 {
@@ -111,7 +115,7 @@ public:
             images.append(frames);
         }
         description.insert("images", images);
-        if (options.sheet) {
+        if (!sheetPixels.isEmpty()) { // no sheet when not one frame can be drawn
             const QString sheet = sheetFileName(name, options.palette, QStringLiteral("png"));
             description.insert("sheet", sheet);
             if (!ArtImageFile::writeIndexed(QDir(folder).filePath(sheet), sheetPixels, sheetSize.width(),
@@ -293,6 +297,11 @@ private:
             error = QStringLiteral("%1: cannot be opened").arg(jsonPath);
             return false;
         }
+        if (file.size() > MAX_DESCRIPTION_BYTES) {
+            error = QStringLiteral("%1: %2 bytes is larger than any art description (%3 at most)")
+                        .arg(jsonPath).arg(file.size()).arg(MAX_DESCRIPTION_BYTES);
+            return false;
+        }
         QJsonParseError parse;
         const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &parse);
         if (!document.isObject()) {
@@ -308,6 +317,15 @@ private:
         if (header.size() != qsizetype(Artfile::HEADER_SIZE))
             return disagree(QStringLiteral("\"header\" holds %1 bytes, not %2").arg(header.size()).arg(Artfile::HEADER_SIZE),
                             error);
+        // The two header words a modder may want to change by hand; equal to the header's when untouched.
+        for (const auto& [key, offset] : {std::pair{"frameRate", 4}, std::pair{"actionFrame", 28}}) {
+            if (!description.contains(QLatin1String(key)))
+                continue;
+            const std::optional<quint32> value = word(description, key);
+            if (!value)
+                return disagree(QStringLiteral("\"%1\" needs a whole number from 0").arg(QLatin1String(key)), error);
+            qToLittleEndian(*value, header.data() + offset);
+        }
         const QJsonArray palettes = description.value("palettes").toArray();
         for (int p = 0; p < palettes.size(); ++p) {
             paletteBytes.push_back(QByteArray::fromBase64(palettes.at(p).toString().toLatin1()));
@@ -382,6 +400,10 @@ private:
             frame.setData(*width, *height, stored);
             return true;
         }
+        if (!ArtImageFile::fitsAFrame(*width, *height))
+            return disagree(QStringLiteral("%1 has a picture but %2 × %3 pixels is no size a picture can have")
+                                .arg(where).arg(*width).arg(*height),
+                            error);
         QByteArray pixels;
         QSize size;
         if (!framePixels(in, where, f, i, QSize(int(*width), int(*height)), pixels, size, error))

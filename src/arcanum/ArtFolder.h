@@ -14,7 +14,8 @@ namespace arcanum {
 // header bytes, the palettes, the bytes after the last frame, each frame's placement values and
 // encoding, and for each frame a checksum of its pixels with, where its stored bytes are not simply its
 // pixels, those bytes. Importing an unchanged folder gives the file back byte for byte; a frame whose
-// PNG was edited is encoded afresh.
+// PNG was edited is encoded afresh, and the JSON's "frameRate" and "actionFrame", when edited, replace
+// those header words.
 class ArtFolder
 {
 public:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 
 namespace arcanum {
 
@@ -29,11 +30,27 @@ const std::array<float, 256>& linearTable()
     return table;
 }
 
+// The cube root of a positive float: an estimate from the exponent bits, then two Halley steps (each
+// cubes the relative error), exact to float precision and several times faster than std::cbrt.
+float cubeRoot(float x)
+{
+    quint32 bits = 0;
+    std::memcpy(&bits, &x, sizeof bits);
+    bits = bits / 3 + 709921077u;
+    float y = 0;
+    std::memcpy(&y, &bits, sizeof y);
+    for (int step = 0; step < 2; ++step) {
+        const float cube = y * y * y;
+        y *= (cube + 2.0f * x) / (2.0f * cube + x);
+    }
+    return y;
+}
+
 float labCurve(float t)
 {
     constexpr float EPSILON = 216.0f / 24389.0f; // (6/29)^3
     constexpr float SLOPE = 24389.0f / 27.0f / 116.0f;
-    return t > EPSILON ? std::cbrt(t) : SLOPE * t + 16.0f / 116.0f;
+    return t > EPSILON ? cubeRoot(t) : SLOPE * t + 16.0f / 116.0f;
 }
 
 // Linear sRGB (D65) to CIELAB.
@@ -104,6 +121,11 @@ PaletteMatcher::PaletteMatcher(const Artfile::Colour (&palette)[Artfile::PALETTE
     }
     std::stable_sort(entries.begin(), entries.end(),
                      [](const Entry& x, const Entry& y) { return x.lab.l < y.lab.l; });
+    for (int l = 0; l < LIGHTNESS_STEPS; ++l)
+        firstAtLightness[std::size_t(l)] =
+            int(std::lower_bound(entries.begin(), entries.end(), float(l),
+                                 [](const Entry& e, float value) { return e.lab.l < value; })
+                - entries.begin());
 }
 
 PaletteMatcher::Lab PaletteMatcher::toLab(QRgb colour)
@@ -141,18 +163,23 @@ int PaletteMatcher::search(const Lab& lab, int hint) const
         const float dh2 = std::max(0.0f, da * da + db * db - dc * dc);
         return dl * dl + dc * dc * chromaWeight + dh2 * hueWeight;
     };
-    const int start = int(std::lower_bound(entries.begin(), entries.end(), lab.l,
-                                           [](const Entry& e, float l) { return e.lab.l < l; })
-                          - entries.begin());
+    // The first entry at least as light as the pixel: from the table of whole lightness values, then a step
+    // or two.
+    int start = firstAtLightness[std::size_t(std::clamp(int(lab.l), 0, LIGHTNESS_STEPS - 1))];
+    while (start < count && entries[std::size_t(start)].lab.l < lab.l)
+        ++start;
     int best = hint >= 0 && hint < count ? hint : std::min(start, count - 1);
     float bestDistance = distance(entries[std::size_t(best)]);
-    // Equal distances go to the lower palette index, whichever way the search came.
+    int bestIndex = entries[std::size_t(best)].index;
+    // Equal distances go to the lower palette index, whichever way the search came. Without branches: which
+    // of two near entries is nearer is a coin toss the processor cannot predict.
     const auto consider = [&](int i) {
-        const float d = distance(entries[std::size_t(i)]);
-        if (d < bestDistance || (d == bestDistance && entries[std::size_t(i)].index < entries[std::size_t(best)].index)) {
-            bestDistance = d;
-            best = i;
-        }
+        const Entry& e = entries[std::size_t(i)];
+        const float d = distance(e);
+        const bool nearer = (d < bestDistance) | ((d == bestDistance) & (e.index < bestIndex));
+        bestDistance = nearer ? d : bestDistance;
+        best = nearer ? i : best;
+        bestIndex = nearer ? e.index : bestIndex;
     };
     // The lightness difference alone bounds the distance from below: past it nothing can be nearer.
     for (int i = start; i < count; ++i) {
@@ -230,7 +257,7 @@ PaletteMatcher::Result PaletteMatcher::match(const QImage& image, bool dither) c
                                          qBlue(row[x]) + carried[2]};
                 int rounded[3];
                 for (int c = 0; c < 3; ++c)
-                    rounded[c] = std::clamp(int(std::lround(wanted[c])), 0, 255);
+                    rounded[c] = int(std::clamp(wanted[c], 0.0f, 255.0f) + 0.5f);
                 const quint8 index = lookUp(qRgb(rounded[0], rounded[1], rounded[2]) & 0xFFFFFFu, cache, hint);
                 target[x] = index;
                 const QRgb got = colours[index];

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QVector>
 
+#include <array>
 #include <vector>
 
 namespace arcanum {
@@ -63,7 +64,10 @@ private:
     quint8 lookUp(QRgb colour, Cache& cache, int& hint) const;
     double blockError(const QImage& source, const QByteArray& indices) const;
 
+    static constexpr int LIGHTNESS_STEPS = 101; // L* runs from 0 to 100
     std::vector<Entry> entries; // the entries an opaque pixel may get, by lightness
+    // For each whole lightness, the position of the first entry at least that light.
+    std::array<int, LIGHTNESS_STEPS> firstAtLightness{};
     QVector<QRgb> colours;      // the palette as RGB, index 0 and its copies with alpha 0
 };
 
