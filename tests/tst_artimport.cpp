@@ -2,6 +2,7 @@
 // in the import dialog before anything changes.
 #include "ArtDocument.h"
 #include "ArtEditorWidget.h"
+#include "ArtPageSupport.h"
 #include "ArtWidget.h"
 #include "Artfile.h"
 #include "DialogImportImage.h"
@@ -80,16 +81,7 @@ private:
 
     std::unique_ptr<ArtWidget> openPage(unsigned frames)
     {
-        const QString file = writeArt(path(QStringLiteral("import.art")), frames);
-        auto page = std::make_unique<ArtWidget>();
-        page->resize(1000, 700);
-        page->show();
-        if (!QTest::qWaitForWindowExposed(page.get()))
-            qWarning("page not exposed");
-        ScriptedAnswerer quiet;
-        if (!page->openFile(file))
-            qFatal("cannot open %s", qPrintable(file));
-        return page;
+        return ArtPageSupport::showPage(writeArt(path(QStringLiteral("import.art")), frames));
     }
 
     static void trigger(ArtWidget& page, const char* action)

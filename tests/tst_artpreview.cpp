@@ -1,6 +1,7 @@
 // The Art tab's animation preview: frames registered on their hotspots, playing, and its edits.
 #include "ArtAnimationWidget.h"
 #include "ArtDocument.h"
+#include "ArtPageSupport.h"
 #include "ArtPreview.h"
 #include "ArtWidget.h"
 #include "Artfile.h"
@@ -87,14 +88,7 @@ private:
         Artfile copy = art;
         if (!copy.save(file))
             qFatal("cannot write %s", qPrintable(file));
-        auto page = std::make_unique<ArtWidget>();
-        page->resize(1000, 700);
-        page->show();
-        if (!QTest::qWaitForWindowExposed(page.get()))
-            qWarning("page not exposed");
-        ScriptedAnswerer quiet;
-        if (!page->openFile(file))
-            qFatal("cannot open %s", qPrintable(file));
+        auto page = ArtPageSupport::showPage(file);
         page->findChild<QTabWidget*>(QStringLiteral("tabsArtView"))->setCurrentWidget(page->animationWidget());
         return page;
     }
