@@ -2,6 +2,7 @@
 #include "ArtAnimationWidget.h"
 #include "ArtDocument.h"
 #include "ArtPageSupport.h"
+#include "ArtHeaderWidget.h"
 #include "ArtPreview.h"
 #include "ArtWidget.h"
 #include "Artfile.h"
@@ -16,6 +17,7 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QUndoStack>
 #include <QtTest>
@@ -351,6 +353,30 @@ private slots:
         QCOMPARE(preview->grab().toImage().pixel(anchor), page->artDocument()->art().getPalette(0)[7].toRgb());
         page->document()->undoStack()->undo();
         QCOMPARE(preview->grab().toImage().pixel(anchor), RED);
+    }
+
+    // Edits the lists and the frame editor make in place reach the preview too.
+    void listEditsReachThePreview()
+    {
+        auto page = openPage(makeArt(8, QVector<FrameShape>(2, FrameShape{4, 4, 0, 0}), 10));
+        ArtPreview* preview = page->animationWidget()->preview();
+        preview->setBackground(Qt::black);
+        QCOMPARE(preview->grab().toImage().pixel(preview->anchorOf(0)), RED);
+        QTest::mouseClick(child<QPushButton>(*page, "frameButtonNew"), Qt::LeftButton);
+        QCOMPARE(preview->frameCount(), 3);
+        // A colour changed in the palette editor shows in the next picture drawn.
+        preview->setFrame(0);
+        ScriptedAnswerer answers;
+        answers.colors << QColor(0, 255, 0);
+        answers.dialogs << [](QDialog& dialog) {
+            dialog.show();
+            auto* table = dialog.findChild<QTableWidget*>(QStringLiteral("tablePalette"));
+            QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualItemRect(table->item(0, 1)).center());
+            QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("buttonOk")), Qt::LeftButton);
+            return dialog.result();
+        };
+        QVERIFY(page->headerWidget()->editPalette(0));
+        QCOMPARE(preview->grab().toImage().pixel(preview->anchorOf(0)), qRgb(0, 255, 0));
     }
 
     void insertedFrameGoesAfterTheSelectedOne()

@@ -132,8 +132,11 @@ void ArtWidget::refresh(bool keepPlace)
 
 void ArtWidget::recordEdit(const QString& text, int mergeId, int key)
 {
-    if (artDocument() != nullptr)
-        artDocument()->recordEdit(text, mergeId, key);
+    if (artDocument() == nullptr)
+        return;
+    artDocument()->recordEdit(text, mergeId, key);
+    // The lists and the frame editor changed the file in place: the preview's pictures are out of date.
+    animation->setArtfile(&artDocument()->art());
 }
 
 void ArtWidget::updateControls()
