@@ -246,6 +246,28 @@ private slots:
         QVERIFY(!page->document()->isModified());
     }
 
+    // A file of single frames cannot store a second frame per image: refused before anything changes.
+    void framesAreAddedOnlyToDirections()
+    {
+        Artfile single;
+        single.newImage(0);
+        single.newImage(0);
+        single.newFrame(0);
+        const QString file = path(QStringLiteral("single.art"));
+        QVERIFY(single.save(file));
+        auto page = ArtPageSupport::showPage(file);
+        const QString png = path(QStringLiteral("one.png"));
+        QVERIFY(crafted().save(png));
+        ScriptedAnswerer answers;
+        answers.fileNames << png;
+        answers.dialogs << [](QDialog&) { return int(QDialog::Accepted); };
+        trigger(*page, "actionImportNewFrame");
+        QVERIFY(answers.last(QStringLiteral("message"))->text.contains(QStringLiteral("only a file of 8 images")));
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 0);
+        QVERIFY(!page->document()->isModified());
+        QCOMPARE(art(*page).getFrameCount(), 1u);
+    }
+
     void exportedFolderImportsBackAsOneStep()
     {
         auto page = openPage(2);

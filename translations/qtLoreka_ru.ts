@@ -517,6 +517,10 @@
         <source>New art</source>
         <translation>Новая графика</translation>
     </message>
+    <message>
+        <source>Nothing was imported: only a file of %1 images (directions) can have more than one frame each, and this one has %2.</source>
+        <translation>Ничего не импортировано: больше одного кадра на изображение может быть только в файле из %1 изображений (направлений), а в этом их %2.</translation>
+    </message>
 </context>
 <context>
     <name>ConversationGraph</name>

@@ -27,7 +27,8 @@
 
 namespace {
 const int FRAME_MERGE_ID = 4001;
-}
+const unsigned DIRECTIONS = 8;
+} // namespace
 
 ArtWidget::ArtWidget(QWidget* parent)
     : Page(parent)
@@ -218,6 +219,22 @@ bool ArtWidget::readPictures(ArtEditorWidget::ImportKind kind, QVector<QImage>& 
     return false;
 }
 
+bool ArtWidget::canHold(ArtEditorWidget::ImportKind kind, unsigned pictures)
+{
+    const arcanum::Artfile& art = artDocument()->art();
+    // Only a sprite of eight directions stores more than one frame per image.
+    const bool addsFrames =
+        kind == ArtEditorWidget::NewFrame || (kind == ArtEditorWidget::WholeImage && pictures > art.getFrameCount());
+    if (!addsFrames || art.getImageCount() == DIRECTIONS)
+        return true;
+    Prompt::message(this, QMessageBox::Warning, tr("Import image"),
+                    tr("Nothing was imported: only a file of %1 images (directions) can have more than one frame "
+                       "each, and this one has %2.")
+                        .arg(DIRECTIONS)
+                        .arg(art.getImageCount()));
+    return false;
+}
+
 void ArtWidget::importPicture(ArtEditorWidget::ImportKind kind)
 {
     ArtDocument* shown = artDocument();
@@ -244,6 +261,8 @@ void ArtWidget::importPicture(ArtEditorWidget::ImportKind kind)
     } else if (!readPictures(kind, sources, names)) {
         return;
     }
+    if (!canHold(kind, unsigned(sources.size())))
+        return;
     const arcanum::Artfile::Colour* colours = shown->art().getPalette(palette);
     if (colours == nullptr)
         return;

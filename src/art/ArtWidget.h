@@ -52,6 +52,8 @@ private slots:
 private:
     // Reads the pictures kind asks for, shows them matched to the selected palette and puts them in.
     void importPicture(ArtEditorWidget::ImportKind kind);
+    // False, after saying why, when the pictures would need frames the file cannot store.
+    bool canHold(ArtEditorWidget::ImportKind kind, unsigned pictures);
     bool readPictures(ArtEditorWidget::ImportKind kind, QVector<QImage>& sources, QStringList& names);
     QString pictureFolder() const;
     void addFolderButtons();
