@@ -77,6 +77,16 @@ QVariant ArtModel::data(const QModelIndex& index, int role) const
     return *icons.insert(gamePath, QIcon(QPixmap::fromImage(picture)));
 }
 
+void ArtModel::refreshIcon(const QString& path)
+{
+    const QModelIndex row = indexOfLoose(path);
+    if (!row.isValid())
+        return;
+    icons.remove(row.data(GamePathRole).toString());
+    pictures->revalidate();
+    emit dataChanged(row, row, {Qt::DecorationRole});
+}
+
 void ArtModel::thumbnailReady(const QString& gamePath)
 {
     const QPersistentModelIndex row = rows.value(gamePath);

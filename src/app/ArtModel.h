@@ -31,6 +31,8 @@ public:
     void fill(const arcanum::GameView& view);
     // The item of a loose file; invalid when the tree does not show it.
     QModelIndex indexOfLoose(const QString& path) const;
+    // A loose file was written: its icon is drawn again from what it holds now.
+    void refreshIcon(const QString& path);
     // Hides every file whose name does not contain text (any case) and folders left empty.
     void filter(QTreeView* tree, const QString& text) const;
 

@@ -600,6 +600,8 @@ void MainWindow::documentReplaced(Page* page, Document* document)
         connect(document, &Document::saved, this, [this](const QString& path) {
             watcher->savedByUs(path);
             recoveryStore->drop(path);
+            if (artModel != nullptr)
+                artModel->refreshIcon(path);
             // A new file, or the loose copy that now overrides an archived one, belongs in the lists.
             if (!listsShow(path)) {
                 manager.reloadAll();
