@@ -1,5 +1,6 @@
 #include "BenchCases.h"
 
+#include "ArtPreview.h"
 #include "ArtFolder.h"
 #include "ArtMaker.h"
 #include "Artfile.h"
@@ -219,6 +220,40 @@ void addArt(Registrar& r, const QString& game, const QString& out)
     });
 }
 
+// The Art tab's preview playing all eight directions: one loop over the 64 frames, each tick drawn as the
+// widget paints it. 64 ticks in 64/60 s keeps up with 60 frames a second, far above any sprite's rate.
+void addArtPreview(Registrar& r, const QString& game)
+{
+    const QString path = BenchInputs::artPath(game);
+    const int ticks = int(BenchInputs::ART_FRAMES);
+    const double pixels = double(ticks) * BenchInputs::ART_IMAGES * BenchInputs::ART_SIDE * BenchInputs::ART_SIDE;
+    const auto prepare = [path, ticks](bool warm) -> Registrar::Body {
+        auto loaded = std::make_shared<arcanum::Artfile>();
+        loaded->load(stdPath(path));
+        auto preview = std::make_shared<ArtPreview>();
+        preview->setArtfile(loaded.get());
+        preview->setAllImages(true);
+        preview->resize(preview->sizeHint());
+        auto canvas = std::make_shared<QImage>(preview->size(), QImage::Format_ARGB32_Premultiplied);
+        const auto loop = [loaded, preview, canvas, ticks] {
+            for (int tick = 0; tick < ticks; ++tick) {
+                preview->step(1);
+                preview->render(canvas.get());
+            }
+            benchmark::DoNotOptimize(canvas->constBits());
+        };
+        if (warm)
+            loop();
+        return [loop, preview, loaded, warm] {
+            if (!warm)
+                preview->setArtfile(loaded.get()); // every picture converted again
+            loop();
+        };
+    };
+    r.addPrepared("art preview: 8 directions x 64 frames, playing", pixels, Goal::Seconds, double(ticks) / 60,
+                  [prepare] { return prepare(true); });
+    r.addPrepared("art preview: the same, first loop (converting)", pixels, Goal::None, 0,
+                  [prepare] { return prepare(false); });
 // A rendered creature as an artist hands it over: a shaded body with a little grain on a clear ground.
 QImage renderedSprite(int side, int variant)
 {
@@ -630,6 +665,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addDialogue(r, gameDir, outDir);
     addScript(r, gameDir, outDir);
     addArt(r, gameDir, outDir);
+    addArtPreview(r, gameDir);
     addArtMaking(r, outDir);
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);

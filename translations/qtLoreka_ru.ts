@@ -2,6 +2,129 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>ArtAnimationWidget</name>
+    <message>
+        <source>Drag a frame to move it against its hotspot (the red cross)</source>
+        <translation>Перетащите кадр, чтобы сдвинуть его относительно точки привязки (красного крестика)</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Пуск</translation>
+    </message>
+    <message>
+        <source>Play or pause the animation</source>
+        <translation>Запустить или приостановить анимацию</translation>
+    </message>
+    <message>
+        <source>◀ Step</source>
+        <translation>◀ Шаг</translation>
+    </message>
+    <message>
+        <source>Show the frame before</source>
+        <translation>Показать предыдущий кадр</translation>
+    </message>
+    <message>
+        <source>Step ▶</source>
+        <translation>Шаг ▶</translation>
+    </message>
+    <message>
+        <source>Show the next frame</source>
+        <translation>Показать следующий кадр</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>По кругу</translation>
+    </message>
+    <message>
+        <source>Start again after the last frame</source>
+        <translation>Начинать заново после последнего кадра</translation>
+    </message>
+    <message>
+        <source>Frames per second the game plays (header word at byte 4; 0 plays at %1)</source>
+        <translation>Сколько кадров в секунду показывает игра (слово заголовка на байте 4; при 0 показывается %1)</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> к/с</translation>
+    </message>
+    <message>
+        <source>The frame on which an attack or a spell takes effect (header word at byte 28)</source>
+        <translation>Кадр, на котором срабатывает удар или заклинание (слово заголовка на байте 28)</translation>
+    </message>
+    <message>
+        <source>All directions</source>
+        <translation>Все направления</translation>
+    </message>
+    <message>
+        <source>Play every image of the file side by side</source>
+        <translation>Показывать все изображения файла рядом</translation>
+    </message>
+    <message>
+        <source>Hotspot</source>
+        <translation>Точка привязки</translation>
+    </message>
+    <message>
+        <source>Show the hotspot: the pixel that stands on the object&apos;s position</source>
+        <translation>Показать точку привязки: пиксель, который стоит на месте объекта</translation>
+    </message>
+    <message>
+        <source>Frame box</source>
+        <translation>Рамка кадра</translation>
+    </message>
+    <message>
+        <source>Outline each frame&apos;s rectangle</source>
+        <translation>Обвести прямоугольник каждого кадра</translation>
+    </message>
+    <message>
+        <source>What transparent pixels show</source>
+        <translation>Что видно сквозь прозрачные пиксели</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Шахматка</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Чёрный</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Белый</translation>
+    </message>
+    <message>
+        <source>Colour…</source>
+        <translation>Цвет…</translation>
+    </message>
+    <message>
+        <source>Shown size only</source>
+        <translation>Только размер показа</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Action frame</source>
+        <translation>Кадр действия</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Фон</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Frame %1 of %2</source>
+        <translation>Кадр %1 из %2</translation>
+    </message>
+</context>
+<context>
     <name>ArtDocument</name>
     <message>
         <source>%1 (at byte %2)</source>
@@ -18,6 +141,34 @@
     <message>
         <source>frames whose pixel data is far too short for their size are listed but not drawn (%1 of them): %2</source>
         <translation>кадры, у которых данных пикселей намного меньше, чем нужно для их размера, перечислены, но не нарисованы (их %1): %2</translation>
+    </message>
+    <message>
+        <source>Frame rate %1</source>
+        <translation>Скорость %1 к/с</translation>
+    </message>
+    <message>
+        <source>Action frame %1</source>
+        <translation>Кадр действия %1</translation>
+    </message>
+    <message>
+        <source>Move frame %1 of image %2</source>
+        <translation>Сдвинуть кадр %1 изображения %2</translation>
+    </message>
+    <message>
+        <source>Replace frame %1 of image %2</source>
+        <translation>Заменить кадр %1 изображения %2</translation>
+    </message>
+    <message>
+        <source>New frame %1 of image %2</source>
+        <translation>Новый кадр %1 изображения %2</translation>
+    </message>
+    <message>
+        <source>Replace the frames of image %1</source>
+        <translation>Заменить кадры изображения %1</translation>
+    </message>
+    <message>
+        <source>Import art folder</source>
+        <translation>Импорт папки графики</translation>
     </message>
 </context>
 <context>
@@ -110,6 +261,26 @@
         <source>Exported as BMP, JPG, PNG and TIFF.</source>
         <translation>Экспортировано в BMP, JPG, PNG и TIFF.</translation>
     </message>
+    <message>
+        <source>Import image</source>
+        <translation>Импорт рисунка</translation>
+    </message>
+    <message>
+        <source>Bring a picture (PNG, BMP, GIF, TIFF, JPG) into the file, its colours matched to the palette</source>
+        <translation>Взять рисунок (PNG, BMP, GIF, TIFF, JPG) в файл, подобрав его цвета по палитре</translation>
+    </message>
+    <message>
+        <source>Replace this frame…</source>
+        <translation>Заменить этот кадр…</translation>
+    </message>
+    <message>
+        <source>As a new frame after this one…</source>
+        <translation>Новым кадром после этого…</translation>
+    </message>
+    <message>
+        <source>A folder of pictures as this whole image…</source>
+        <translation>Папку рисунков — всем этим изображением…</translation>
+    </message>
 </context>
 <context>
     <name>ArtHeaderWidget</name>
@@ -175,6 +346,32 @@
     </message>
 </context>
 <context>
+    <name>ArtImageSource</name>
+    <message>
+        <source>Images (%1);;All files (*)</source>
+        <translation>Рисунки (%1);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>%1 holds no pictures</source>
+        <translation>в %1 нет рисунков</translation>
+    </message>
+</context>
+<context>
+    <name>ArtPreview</name>
+    <message>
+        <source>No frame</source>
+        <translation>Нет кадра</translation>
+    </message>
+    <message>
+        <source>Image %1 · action</source>
+        <translation>Изображение %1 · действие</translation>
+    </message>
+    <message>
+        <source>Image %1</source>
+        <translation>Изображение %1</translation>
+    </message>
+</context>
+<context>
     <name>ArtWidget</name>
     <message>
         <source>No art file open: double-click one in the list.</source>
@@ -223,6 +420,106 @@
     <message>
         <source>Arcanum Art files (*.art);;All files (*)</source>
         <translation>Файлы графики Arcanum (*.art);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Кадр</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Анимация</translation>
+    </message>
+    <message>
+        <source>Import a folder of pictures</source>
+        <translation>Импорт папки рисунков</translation>
+    </message>
+    <message>
+        <source>Import image</source>
+        <translation>Импорт рисунка</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1.</source>
+        <translation>Ничего не импортировано: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: only a file of %1 images (directions) can have more than one frame each, and this one has %2.</source>
+        <translation>Ничего не импортировано: больше одного кадра на изображение может быть только в файле из %1 изображений (направлений), а в этом их %2.</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no picture.</source>
+        <translation>В буфере обмена нет рисунка.</translation>
+    </message>
+    <message>
+        <source>the clipboard</source>
+        <translation>буфер обмена</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>Write every frame as a PNG with the selected palette, plus a JSON file that keeps the rest: importing the folder gives this file back</source>
+        <translation>Записать каждый кадр в PNG с выбранной палитрой и файл JSON со всем остальным: импорт этой папки вернёт этот же файл</translation>
+    </message>
+    <message>
+        <source>One PNG per frame…</source>
+        <translation>По PNG на кадр…</translation>
+    </message>
+    <message>
+        <source>One sprite sheet (images as rows, frames as columns)…</source>
+        <translation>Один лист спрайтов (изображения — строки, кадры — столбцы)…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Импорт…</translation>
+    </message>
+    <message>
+        <source>Read a folder written by Export (its PNGs may have been edited) into this file</source>
+        <translation>Прочитать в этот файл папку, записанную Экспортом (её PNG могли быть изменены)</translation>
+    </message>
+    <message>
+        <source>Export art to folder</source>
+        <translation>Экспорт графики в папку</translation>
+    </message>
+    <message>
+        <source>untitled</source>
+        <translation>без имени</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1.</source>
+        <translation>Ничего не экспортировано: %1.</translation>
+    </message>
+    <message>
+        <source>%1 written to %2.</source>
+        <translation>%1 записан в %2.</translation>
+    </message>
+    <message>
+        <source>Import art folder</source>
+        <translation>Импорт папки графики</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>New art from images</source>
+        <translation>Новая графика из рисунков</translation>
+    </message>
+    <message>
+        <source>No art file was made: %1.</source>
+        <translation>Файл графики не создан: %1.</translation>
+    </message>
+    <message>
+        <source>New art</source>
+        <translation>Новая графика</translation>
     </message>
 </context>
 <context>
@@ -398,6 +695,65 @@
     <message>
         <source> (not drawn: the game leaves it transparent)</source>
         <translation> (не рисуется: игра оставляет его прозрачным)</translation>
+    </message>
+</context>
+<context>
+    <name>DialogImportImage</name>
+    <message>
+        <source>Import image</source>
+        <translation>Импорт рисунка</translation>
+    </message>
+    <message>
+        <source>CIE94 colour difference between source and result: below 1 is hard to see, above 5 is plain to see</source>
+        <translation>Цветовое различие CIE94 между источником и результатом: меньше 1 почти незаметно, больше 5 видно сразу</translation>
+    </message>
+    <message>
+        <source>Which picture to look at</source>
+        <translation>Какой рисунок показать</translation>
+    </message>
+    <message>
+        <source>Picture </source>
+        <translation>Рисунок </translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> из %1</translation>
+    </message>
+    <message>
+        <source>Dither (Floyd–Steinberg)</source>
+        <translation>Смешение (Флойд — Стейнберг)</translation>
+    </message>
+    <message>
+        <source>Mix neighbouring colours to come closer to shades the palette lacks</source>
+        <translation>Смешивать соседние цвета, чтобы приблизиться к оттенкам, которых нет в палитре</translation>
+    </message>
+    <message>
+        <source>Put the result into the art file</source>
+        <translation>Поместить результат в файл графики</translation>
+    </message>
+    <message>
+        <source>Leave the art file as it is</source>
+        <translation>Оставить файл графики как есть</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Источник</translation>
+    </message>
+    <message>
+        <source>In the art&apos;s palette</source>
+        <translation>В палитре графики</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3 pixels</source>
+        <translation>%1, %2 × %3 пикс.</translation>
+    </message>
+    <message>
+        <source>Mean colour error %1 (this picture %2)</source>
+        <translation>Средняя ошибка цвета %1 (у этого рисунка %2)</translation>
+    </message>
+    <message>
+        <source>Mean colour error %1</source>
+        <translation>Средняя ошибка цвета %1</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1927,14 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>%1 has no entry %2 any more</source>
         <translation>В %1 больше нет записи %2</translation>
+    </message>
+    <message>
+        <source>A&amp;rt</source>
+        <translation>&amp;Графика</translation>
+    </message>
+    <message>
+        <source>&amp;New art from images…</source>
+        <translation>&amp;Новая графика из рисунков…</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "PageFrame.h"
 
 #include "ArtModel.h"
+#include "ArtThumbnails.h"
 #include "ArtWidget.h"
 #include "DamageBanner.h"
 #include "DialogAbout.h"
@@ -192,6 +193,15 @@ void MainWindow::createMenus()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addActions({actionOpen, actionSave, actionSaveAs});
     file->addSeparator();
+    QMenu* art = file->addMenu(tr("A&rt"));
+    art->setObjectName(QStringLiteral("menuArt"));
+    QAction* newArt = art->addAction(tr("&New art from images…"));
+    newArt->setObjectName(QStringLiteral("actionNewArtFromImages"));
+    connect(newArt, &QAction::triggered, this, [this] {
+        showPage(artWidget);
+        artWidget->newFromImages();
+    });
+    file->addSeparator();
     file->addAction(ui->actionConfigure);
     file->addSeparator();
     file->addActions({ui->actionExit, actionQuit});
@@ -307,6 +317,7 @@ void MainWindow::createArtTree()
 {
     artModel = new ArtModel(this);
     ui->artTree->setModel(artModel);
+    ui->artTree->setIconSize(QSize(ArtThumbnails::SIDE, ArtThumbnails::SIDE));
 }
 
 QString MainWindow::fullPath(const QString& subDir, const QString& name) const
@@ -633,6 +644,8 @@ void MainWindow::documentReplaced(Page* page, Document* document)
         connect(document, &Document::saved, this, [this](const QString& path) {
             watcher->savedByUs(path);
             recoveryStore->drop(path);
+            if (artModel != nullptr)
+                artModel->refreshIcon(path);
             // A new file, or the loose copy that now overrides an archived one, belongs in the lists.
             if (!listsShow(path)) {
                 manager.reloadAll();
