@@ -244,6 +244,18 @@ private slots:
         QCOMPARE(FormatChecks::readFile(file), QByteArray(russian).replace("Shield", "Buckler"));
     }
 
+    // Find in game files opens a file at an entry through this.
+    void goToEntrySelectsTheNumber()
+    {
+        open(QStringLiteral("items.mes"), MESSAGES);
+        QVERIFY(page->goToEntry(110));
+        QCOMPARE(table()->currentIndex().row(), 2);
+        QCOMPARE(itemView()->toPlainText(), QStringLiteral("A dagger.\n\tNotched."));
+        QVERIFY(!page->goToEntry(105));
+        QVERIFY(!page->goToEntry(-1));
+        QCOMPARE(table()->currentIndex().row(), 2);
+    }
+
     void wheelLeavesUnfocusedControlsAlone()
     {
         open(QStringLiteral("items.mes"), MESSAGES);

@@ -31,6 +31,8 @@ public:
 
     MesDocument* mesDocument() const;
     QTextCodec* getCodec() const { return codec; }
+    // Selects the entry numbered number and scrolls it into view; false when the open file has none.
+    bool goToEntry(int number);
 
 protected:
     void showDocument() override;
