@@ -17,6 +17,7 @@
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -314,6 +315,36 @@ private slots:
         QTest::keyClick(window.findChild<QTreeWidget*>(QStringLiteral("treeMes")), Qt::Key_X, Qt::ControlModifier);
         QCOMPARE(answers.count(QStringLiteral("question")), 1);
         QVERIFY(window.isVisible());
+    }
+
+    // Ctrl+F finds in the open message file while the Mes page has the focus and filters the file list
+    // elsewhere; Ctrl+H is the page's Replace, so the undo history moved to Ctrl+Shift+H.
+    void findKeysFollowTheFocus()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        openItems(window, game);
+        auto* view = window.mesPage()->findChild<QTableView*>(QStringLiteral("table"));
+        auto* findBar = window.mesPage()->findChild<QWidget*>(QStringLiteral("findBar"));
+        auto* replaceText = window.mesPage()->findChild<QLineEdit*>(QStringLiteral("replaceText"));
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(findBar->isVisible());
+        QVERIFY(!replaceText->isVisible());
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("findText"));
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_H, Qt::ControlModifier);
+        QVERIFY(replaceText->isVisible());
+        auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget(), window.findChild<QLineEdit*>(QStringLiteral("fileFilter1")));
+        auto* history = window.findChild<QDockWidget*>(QStringLiteral("undoHistoryDock"));
+        QVERIFY(!history->isVisible());
+        QTest::keyClick(tree, Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(history->isVisible());
     }
 
     void dropOpensInItsPage()
