@@ -133,6 +133,7 @@ private slots:
         QCOMPARE(child<QPlainTextEdit>("editCommentary")->toPlainText(), QStringLiteral("// Test items\n"));
         // The row that cannot be read shows its text and cannot be edited.
         QCOMPARE(model()->data(model()->index(3, 1)).toString(), QStringLiteral("{x}{broken}"));
+        QCOMPARE(model()->data(model()->index(3, 0)).toString(), QString()); // no number could be read
         QVERIFY(!(model()->flags(model()->index(3, 1)) & Qt::ItemIsEditable));
         QVERIFY(!(model()->flags(model()->index(0, 0)) & Qt::ItemIsEditable));
         QVERIFY2(page->document()->damage().contains(QStringLiteral("entry 4 (line 6)")), qPrintable(page->document()->damage()));

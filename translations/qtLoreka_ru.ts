@@ -1574,6 +1574,10 @@ Restore them (they open modified, not saved) or discard them?</source>
         <source>Replace all “%1”</source>
         <translation>Заменить все «%1»</translation>
     </message>
+    <message>
+        <source>Delete unreadable line %1</source>
+        <translation>Удалить нечитаемую строку %1</translation>
+    </message>
 </context>
 <context>
     <name>MesTableModel</name>

@@ -55,7 +55,7 @@ QString MesDocument::cell(int entry, int column) const
     if (found == nullptr)
         return QString();
     if (column == 0)
-        return QString::number(found->getMesIndex());
+        return found->hasMesIndex() ? QString::number(found->getMesIndex()) : QString();
     if (column == columnCount() - 1)
         return found->getComment();
     return found->getItemAt(unsigned(column - 1));
@@ -211,8 +211,10 @@ bool MesDocument::removeEntries(const QList<int>& positions)
         return false;
     // From the bottom up, so each position still names its entry when its turn comes.
     std::sort(sorted.begin(), sorted.end(), std::greater<int>());
-    const QString what = sorted.size() == 1 ? tr("Delete entry %1").arg(cell(sorted.first(), 0))
-                                            : tr("Delete %1 entries").arg(sorted.size());
+    QString what = tr("Delete %1 entries").arg(sorted.size());
+    if (sorted.size() == 1)
+        what = isReadable(sorted.first()) ? tr("Delete entry %1").arg(cell(sorted.first(), 0))
+                                          : tr("Delete unreadable line %1").arg(mesfile->getEntryAt(sorted.first())->getSourceLine());
     auto* group = new QUndoCommand(what);
     for (int position : sorted)
         EntryPresenceCommand::removing(this, position, what, group);

@@ -375,19 +375,13 @@ void MesWidget::encodingChosen(const QString& name)
 bool MesWidget::goToEntry(int number)
 {
     const MesDocument* shown = mesDocument();
-    if (shown == nullptr || number < 0)
+    const int row = shown != nullptr && number >= 0 ? shown->model().positionOf(number) : -1;
+    if (row < 0)
         return false;
-    const arcanum::Mesfile& file = shown->model();
-    for (int row = 0; row < file.getEntryCount(); ++row) {
-        const Mesfile::Entry* entry = file.getEntryAt(row);
-        if (entry->isValid() && entry->getMesIndex() == number) {
-            const QModelIndex cell = table->index(row, 1);
-            ui->table->setCurrentIndex(cell);
-            ui->table->scrollTo(cell, QAbstractItemView::PositionAtCenter);
-            return true;
-        }
-    }
-    return false;
+    const QModelIndex cell = table->index(row, 1);
+    ui->table->setCurrentIndex(cell);
+    ui->table->scrollTo(cell, QAbstractItemView::PositionAtCenter);
+    return true;
 }
 
 void MesWidget::showFind(bool replace)
