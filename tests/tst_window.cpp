@@ -8,6 +8,7 @@
 #include "GameWidget.h"
 #include "MesWidget.h"
 #include "Page.h"
+#include "PageFrame.h"
 #include "RecoveryStore.h"
 #include "ScriptWidget.h"
 #include "ScriptedAnswerer.h"
@@ -345,6 +346,34 @@ private slots:
         QVERIFY(!history->isVisible());
         QTest::keyClick(tree, Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(history->isVisible());
+    }
+
+    // Save As from the frame writes the script under its new number and name; the list shows the new
+    // file and New and Delete stay as they were (disabled: a new script starts with Save As).
+    void scriptSaveAsShowsTheNewFile()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.openFiles({game.path(QStringLiteral("/data/scr/00001gate_guard.scr"))});
+        QVERIFY(window.scriptPage()->document());
+        ScriptedAnswerer answers;
+        answers.dialogs << [](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>(QStringLiteral("scriptNumber"))->setText(QStringLiteral("50"));
+            dialog.findChild<QLineEdit*>(QStringLiteral("scriptName"))->setText(QStringLiteral("night_guard"));
+            return int(QDialog::Accepted);
+        };
+        auto* frame = qobject_cast<PageFrame*>(window.scriptPage()->parentWidget());
+        QVERIFY(frame);
+        QTest::mouseClick(frame->findChild<QPushButton*>(QStringLiteral("frameSaveAs")), Qt::LeftButton);
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
+        const QString created = game.path(QStringLiteral("/data/scr/00050night_guard.scr"));
+        QCOMPARE(window.scriptPage()->document()->path(), created);
+        QCOMPARE(game.bytes(QStringLiteral("/data/scr/00050night_guard.scr")),
+                 game.bytes(QStringLiteral("/data/scr/00001gate_guard.scr")));
+        auto* list = window.findChild<QListWidget*>(QStringLiteral("listScripts"));
+        QCOMPARE(list->findItems(QStringLiteral("00050night_guard.scr"), Qt::MatchExactly).size(), 1);
+        for (const char* name : {"buttonScriptNew", "buttonScriptDelete"})
+            QVERIFY(!window.findChild<QPushButton*>(QString::fromLatin1(name))->isEnabled());
     }
 
     void dropOpensInItsPage()

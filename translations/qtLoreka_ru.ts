@@ -517,6 +517,33 @@
     </message>
 </context>
 <context>
+    <name>DialogSaveScript</name>
+    <message>
+        <source>Save script as</source>
+        <translation>Сохранить скрипт как</translation>
+    </message>
+    <message>
+        <source>The script&apos;s number, 1 to 99999: the game finds the script by it</source>
+        <translation>Номер скрипта, от 1 до 99999: по нему игра находит скрипт</translation>
+    </message>
+    <message>
+        <source>The rest of the file name, for people: what the script is for</source>
+        <translation>Остальная часть имени файла, для людей: для чего этот скрипт</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Номер:</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Имя:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Файл:</translation>
+    </message>
+</context>
+<context>
     <name>DialogueDocument</name>
     <message>
         <source>Saving in %1 would change %2 line(s) of the file that do not read cleanly in it (first: line %3).</source>
@@ -1420,10 +1447,6 @@ Restore them (they open modified, not saved) or discard them?</source>
         <translation>Новый</translation>
     </message>
     <message>
-        <source>Start a new script file</source>
-        <translation>Начать новый файл скрипта</translation>
-    </message>
-    <message>
         <source>Delete the selected script file</source>
         <translation>Удалить выбранный файл скрипта</translation>
     </message>
@@ -1478,6 +1501,10 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>Ctrl+Del</source>
         <translation>Ctrl+Del</translation>
+    </message>
+    <message>
+        <source>Not available: a new script starts from an open one with Save As…, which asks for its number and name</source>
+        <translation>Недоступно: новый скрипт начинается с открытого через «Сохранить как…», который спрашивает его номер и имя</translation>
     </message>
 </context>
 <context>
@@ -2456,6 +2483,22 @@ Restore them (they open modified, not saved) or discard them?</source>
         <source>%1 of %2 lines hold statements no script uses (first: %3); the file is probably not a script</source>
         <translation>%1 из %2 строк содержат операторы, которых не бывает в скриптах (первая: %3); вероятно, это не скрипт</translation>
     </message>
+    <message>
+        <source>“%1” is not a number.</source>
+        <translation>«%1» — не число.</translation>
+    </message>
+    <message>
+        <source>%1 is outside 1 … %2: a script number has five digits.</source>
+        <translation>%1 вне диапазона 1 … %2: номер скрипта состоит из пяти цифр.</translation>
+    </message>
+    <message>
+        <source>Script number %1 is already in use.</source>
+        <translation>Номер скрипта %1 уже занят.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be a script&apos;s name: it must not be empty or hold any of \ / : * ? &quot; &lt; &gt; |.</source>
+        <translation>«%1» не может быть именем скрипта: оно не должно быть пустым или содержать \ / : * ? " &lt; &gt; |.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptWidget</name>
@@ -2546,6 +2589,10 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>Write the script in place (Ctrl+S)</source>
         <translation>Записать скрипт на место (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save script as</source>
+        <translation>Сохранить скрипт как</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,12 @@ MainWindow::MainWindow(QWidget* parent)
 
     scriptWidget = new ScriptWidget(this);
     scriptWidget->setMinimumHeight(280);
+    scriptWidget->setListedScripts([this] {
+        QStringList names;
+        for (int i = 0; i < ui->listScripts->count(); ++i)
+            names.append(ui->listScripts->item(i)->text());
+        return names;
+    });
     addPage(scriptWidget, ui->scriptsRightLayout, ui->tabWidget->indexOf(ui->tabScripts),
             tr("Pick a script in the list on the left, or open one with Ctrl+O."));
     mesWidget = new MesWidget(this);
