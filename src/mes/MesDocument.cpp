@@ -10,6 +10,7 @@
 #include <QUndoStack>
 
 #include <algorithm>
+#include <set>
 
 using arcanum::Mesfile;
 
@@ -203,14 +204,14 @@ bool MesDocument::renumberEntry(int entry, int number, QString& error)
 
 bool MesDocument::removeEntries(const QList<int>& positions)
 {
-    QList<int> sorted;
+    // From the bottom up, so each position still names its entry when its turn comes.
+    std::set<int, std::greater<int>> unique;
     for (int position : positions)
-        if (mesfile->getEntryAt(position) != nullptr && !sorted.contains(position))
-            sorted.append(position);
+        if (mesfile->getEntryAt(position) != nullptr)
+            unique.insert(position);
+    const QList<int> sorted(unique.begin(), unique.end());
     if (sorted.isEmpty())
         return false;
-    // From the bottom up, so each position still names its entry when its turn comes.
-    std::sort(sorted.begin(), sorted.end(), std::greater<int>());
     QString what = tr("Delete %1 entries").arg(sorted.size());
     if (sorted.size() == 1)
         what = isReadable(sorted.first()) ? tr("Delete entry %1").arg(cell(sorted.first(), 0))

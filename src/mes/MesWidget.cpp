@@ -23,6 +23,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <set>
 
 using arcanum::Mesfile;
 
@@ -280,7 +281,7 @@ void MesWidget::updateControls()
     const bool readable = loaded && shown->isReadable(ui->table->currentIndex().row());
     duplicateAction->setEnabled(readable);
     renumberAction->setEnabled(readable);
-    deleteAction->setEnabled(loaded && !selectedRows().isEmpty());
+    deleteAction->setEnabled(loaded && (ui->table->selectionModel()->hasSelection() || ui->table->currentIndex().isValid()));
     if (!loaded)
         findBar->hide();
 }
@@ -425,14 +426,13 @@ void MesWidget::selectCell(int row, int column)
 
 QList<int> MesWidget::selectedRows() const
 {
-    QList<int> rows;
+    std::set<int> rows;
     for (const QModelIndex& cell : ui->table->selectionModel()->selectedIndexes())
-        if (!rows.contains(cell.row()))
-            rows.append(cell.row());
+        rows.insert(cell.row());
     const QModelIndex current = ui->table->currentIndex();
-    if (rows.isEmpty() && current.isValid())
-        rows.append(current.row());
-    return rows;
+    if (rows.empty() && current.isValid())
+        rows.insert(current.row());
+    return QList<int>(rows.begin(), rows.end());
 }
 
 void MesWidget::addEntry()
@@ -478,10 +478,11 @@ void MesWidget::deleteSelectedEntries()
     if (shown == nullptr || rows.isEmpty())
         return;
     const int column = std::max(ui->table->currentIndex().column(), 0);
-    const int first = *std::min_element(rows.begin(), rows.end());
+    const int first = rows.first();
+    // The view lets go of the selection first: it would otherwise follow every row as it goes.
+    ui->table->clearSelection();
     if (!shown->removeEntries(rows))
         return;
-    ui->table->clearSelection();
     if (table->rowCount() > 0)
         selectCell(std::min(first, table->rowCount() - 1), column);
     entryStatus->setText(rows.size() == 1 ? tr("1 entry deleted") : tr("%1 entries deleted").arg(rows.size()));
