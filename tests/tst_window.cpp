@@ -338,6 +338,17 @@ private slots:
         view->setFocus();
         QTest::keyClick(view, Qt::Key_H, Qt::ControlModifier);
         QVERIFY(replaceText->isVisible());
+        // The table's own keys: Ctrl+G asks for a number, Delete removes the selected entry.
+        ScriptedAnswerer answers;
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_G, Qt::ControlModifier);
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
+        const int rows = view->model()->rowCount();
+        view->setCurrentIndex(view->model()->index(0, 1));
+        QTest::keyClick(view, Qt::Key_Delete);
+        QCOMPARE(view->model()->rowCount(), rows - 1);
+        window.mesPage()->document()->undoStack()->undo();
+        QCOMPARE(view->model()->rowCount(), rows);
         auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
         tree->setFocus();
         QTest::keyClick(tree, Qt::Key_F, Qt::ControlModifier);
