@@ -80,6 +80,22 @@ MesDocument* MesWidget::mesDocument() const
     return static_cast<MesDocument*>(document());
 }
 
+bool MesWidget::goToEntry(int number)
+{
+    if (mesDocument() == nullptr)
+        return false;
+    const Mesfile& model = mesDocument()->model();
+    for (int row = 0; row < model.getEntryCount(); ++row) {
+        if (model.getEntryAt(row)->getMesIndex() != number)
+            continue;
+        const QModelIndex text = table->index(row, 1);
+        ui->table->setCurrentIndex(text);
+        ui->table->scrollTo(text, QAbstractItemView::PositionAtCenter);
+        return true;
+    }
+    return false;
+}
+
 const QStringList& MesWidget::encodingList()
 {
     // The game's own code pages first, then every other codec once, by its canonical name (Qt lists
@@ -371,18 +387,6 @@ void MesWidget::encodingChosen(const QString& name)
         ui->encodingSelect->setCurrentIndex(
             ui->encodingSelect->findText(QString::fromLatin1(codec->name()), Qt::MatchFixedString));
     }
-}
-
-bool MesWidget::goToEntry(int number)
-{
-    const MesDocument* shown = mesDocument();
-    const int row = shown != nullptr && number >= 0 ? shown->model().positionOf(number) : -1;
-    if (row < 0)
-        return false;
-    const QModelIndex cell = table->index(row, 1);
-    ui->table->setCurrentIndex(cell);
-    ui->table->scrollTo(cell, QAbstractItemView::PositionAtCenter);
-    return true;
 }
 
 void MesWidget::showFind(bool replace)

@@ -28,14 +28,6 @@ public:
     // Every codec name the platform offers, in its own order.
     static const QStringList& encodingList();
 
-    QStringList suffixes() const override;
-    QString fileFilter() const override;
-    std::unique_ptr<Document> fromBytes(const QString& path, const QByteArray& bytes, QString& error) const override;
-
-    MesDocument* mesDocument() const;
-    QTextCodec* getCodec() const { return codec; }
-    // Selects the entry numbered number and scrolls it into view; false when the open file has none.
-    bool goToEntry(int number);
     // Opens the find bar (with its replace row for replace) over the table.
     void showFind(bool replace);
 
@@ -47,6 +39,15 @@ public:
     void renumberEntry();
     void goToNumber();
     void sortByNumber();
+
+    QStringList suffixes() const override;
+    QString fileFilter() const override;
+    std::unique_ptr<Document> fromBytes(const QString& path, const QByteArray& bytes, QString& error) const override;
+
+    MesDocument* mesDocument() const;
+    QTextCodec* getCodec() const { return codec; }
+    // Selects the text of the entry with that number and scrolls to it; false when the file has none.
+    bool goToEntry(int number);
 
 protected:
     void showDocument() override;
