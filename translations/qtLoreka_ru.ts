@@ -565,6 +565,46 @@
         <source>the file could not be read as dialogue lines from file line %1 on; that part is not shown but is written back unchanged after the lines</source>
         <translation>начиная со строки файла %1 файл не читается как реплики диалога; эта часть не показана, но записывается без изменений после реплик</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no line number: a line number is a whole number from 0 to 2 147 483 647.</source>
+        <translation>«%1» — не номер строки: номер строки — целое число от 0 до 2 147 483 647.</translation>
+    </message>
+    <message>
+        <source>Line %1 is already in use.</source>
+        <translation>Номер %1 уже занят.</translation>
+    </message>
+    <message>
+        <source>Add NPC line %1</source>
+        <translation>Добавить реплику NPC %1</translation>
+    </message>
+    <message>
+        <source>Add PC response %1</source>
+        <translation>Добавить ответ PC %1</translation>
+    </message>
+    <message>
+        <source>Delete NPC line %1</source>
+        <translation>Удалить реплику NPC %1</translation>
+    </message>
+    <message>
+        <source>Delete PC response %1</source>
+        <translation>Удалить ответ PC %1</translation>
+    </message>
+    <message>
+        <source>Line %1 cannot become line 0: other lines lead to it, and a response line of 0 ends the conversation.</source>
+        <translation>Строке %1 нельзя дать номер 0: на неё ведут другие строки, а строка ответа 0 завершает разговор.</translation>
+    </message>
+    <message>
+        <source>There is no line %1.</source>
+        <translation>Строки %1 нет.</translation>
+    </message>
+    <message>
+        <source>Renumber line %1 to %2</source>
+        <translation>Перенумеровать строку %1 в %2</translation>
+    </message>
+    <message>
+        <source>Delete %1 lines</source>
+        <translation>Удалить строки: %1</translation>
+    </message>
 </context>
 <context>
     <name>DialogueEditWidget</name>
@@ -731,6 +771,70 @@
     <message>
         <source>Go forward again after going back</source>
         <translation>Снова перейти вперёд после возврата</translation>
+    </message>
+    <message>
+        <source>Add NPC line</source>
+        <translation>Добавить реплику NPC</translation>
+    </message>
+    <message>
+        <source>Add an NPC line after the selected line</source>
+        <translation>Добавить реплику NPC после выбранной строки</translation>
+    </message>
+    <message>
+        <source>Add response</source>
+        <translation>Добавить ответ</translation>
+    </message>
+    <message>
+        <source>Add a PC response after the selected line</source>
+        <translation>Добавить ответ PC после выбранной строки</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete the selected line (Del)</source>
+        <translation>Удалить выбранную строку (Del)</translation>
+    </message>
+    <message>
+        <source>Double-click to open line %1</source>
+        <translation>Двойной щелчок открывает строку %1</translation>
+    </message>
+    <message>
+        <source>Add PC response</source>
+        <translation>Добавить ответ PC</translation>
+    </message>
+    <message>
+        <source>Number of the new line (0 to 2 147 483 647, not in use):</source>
+        <translation>Номер новой строки (от 0 до 2 147 483 647, не занятый):</translation>
+    </message>
+    <message>
+        <source>Line %1 leads to line %2. Delete it anyway?</source>
+        <translation>Строка %1 ведёт на строку %2. Всё равно удалить?</translation>
+    </message>
+    <message>
+        <source>Lines %1 lead to line %2. Delete it anyway?</source>
+        <translation>Строки %1 ведут на строку %2. Всё равно удалить?</translation>
+    </message>
+    <message>
+        <source>Delete line</source>
+        <translation>Удаление строки</translation>
+    </message>
+    <message>
+        <source>Change line number</source>
+        <translation>Изменение номера строки</translation>
+    </message>
+    <message>
+        <source>Open line</source>
+        <translation>Открытие строки</translation>
+    </message>
+    <message>
+        <source>Line %1 is not in %2.</source>
+        <translation>Строки %1 нет в %2.</translation>
+    </message>
+    <message>
+        <source>Lines %1 lead to lines %2. Delete them anyway?</source>
+        <translation>Строки %1 ведут на строки %2. Всё равно удалить их?</translation>
     </message>
 </context>
 <context>
@@ -909,16 +1013,16 @@
         <source>Adds a result at the top of the list; results happen when the character says this line</source>
         <translation>Добавляет результат в начало списка; результаты наступают, когда персонаж произносит эту реплику</translation>
     </message>
+    <message>
+        <source>The number of this line. Press Enter to change it: every line leading to it or naming it follows.</source>
+        <translation>Номер этой строки. Нажмите Enter, чтобы изменить его: все строки, которые ведут на неё или называют её, изменятся вместе с ним.</translation>
+    </message>
 </context>
 <context>
     <name>DlgPcLineEditWidget</name>
     <message>
         <source>Line number</source>
         <translation>Номер строки</translation>
-    </message>
-    <message>
-        <source>Changing of line number not yet implemented</source>
-        <translation>Изменение номера строки пока не реализовано</translation>
     </message>
     <message>
         <source>Set original data</source>
@@ -999,6 +1103,10 @@
     <message>
         <source>Adds a result at the top of the list; results happen when the player chooses this response</source>
         <translation>Добавляет результат в начало списка; результаты наступают, когда игрок выбирает этот ответ</translation>
+    </message>
+    <message>
+        <source>The number of this line. Press Enter to change it: every line leading to it or naming it follows.</source>
+        <translation>Номер этой строки. Нажмите Enter, чтобы изменить его: все строки, которые ведут на неё или называют её, изменятся вместе с ним.</translation>
     </message>
 </context>
 <context>
@@ -1089,6 +1197,133 @@
     <message>
         <source>Replace every match in the file as one undo step</source>
         <translation>Заменить все совпадения в файле одним шагом отмены</translation>
+    </message>
+</context>
+<context>
+    <name>FindInGameDialog</name>
+    <message>
+        <source>Find in game files</source>
+        <translation>Поиск по файлам игры</translation>
+    </message>
+    <message>
+        <source>Text of messages and dialogue lines</source>
+        <translation>Текст сообщений и реплик диалогов</translation>
+    </message>
+    <message>
+        <source>Number used as a global flag</source>
+        <translation>Число как глобальный флаг</translation>
+    </message>
+    <message>
+        <source>Number used as a global variable</source>
+        <translation>Число как глобальная переменная</translation>
+    </message>
+    <message>
+        <source>Number used as a script</source>
+        <translation>Число как номер скрипта</translation>
+    </message>
+    <message>
+        <source>Number used as a message or dialogue line</source>
+        <translation>Число как номер сообщения или реплики</translation>
+    </message>
+    <message>
+        <source>Number modes list dialogue tests and results, script statements and prototype script points that use the number</source>
+        <translation>В режимах чисел перечисляются проверки и результаты диалогов, операторы скриптов и точки скриптов прототипов, где используется это число</translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>С учётом &amp;регистра</translation>
+    </message>
+    <message>
+        <source>Regular e&amp;xpression</source>
+        <translation>Регулярное &amp;выражение</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Найти</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>File:line</source>
+        <translation>Файл:строка</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Text or use</source>
+        <translation>Текст или использование</translation>
+    </message>
+    <message>
+        <source>Double-click a result, or press Enter, to open the file there</source>
+        <translation>Дважды щёлкните результат или нажмите Enter, чтобы открыть файл в этом месте</translation>
+    </message>
+    <message>
+        <source>&amp;Search for:</source>
+        <translation>&amp;Искать:</translation>
+    </message>
+    <message>
+        <source>&amp;Mode:</source>
+        <translation>&amp;Режим:</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Искомый текст</translation>
+    </message>
+    <message>
+        <source>A whole number, e.g. 42</source>
+        <translation>Целое число, например 42</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from -2147483648 to 2147483647.</source>
+        <translation>«%1» — не целое число от -2147483648 до 2147483647.</translation>
+    </message>
+    <message>
+        <source>Cannot search: %1</source>
+        <translation>Поиск невозможен: %1</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Идёт поиск…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Cancelled after %n file(s): </source>
+        <translation>
+            <numerusform>Отменено после %n файла: </numerusform>
+            <numerusform>Отменено после %n файлов: </numerusform>
+            <numerusform>Отменено после %n файлов: </numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) searched: </source>
+        <translation>
+            <numerusform>Просмотрен %n файл: </numerusform>
+            <numerusform>Просмотрено %n файла: </numerusform>
+            <numerusform>Просмотрено %n файлов: </numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing found.</source>
+        <translation>ничего не найдено.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s).</source>
+        <translation>
+            <numerusform>%n результат.</numerusform>
+            <numerusform>%n результата.</numerusform>
+            <numerusform>%n результатов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Could not read: %1</source>
+        <translation>Не удалось прочитать: %1</translation>
+    </message>
+    <message>
+        <source>Type the text to find.</source>
+        <translation>Введите искомый текст.</translation>
     </message>
 </context>
 <context>
@@ -1431,6 +1666,18 @@ Restore them (they open modified, not saved) or discard them?</source>
 
 Восстановить их (они откроются изменёнными, но не сохранёнными) или отбросить?</translation>
     </message>
+    <message>
+        <source>Find in &amp;game files…</source>
+        <translation>Поиск по &amp;файлам игры…</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the game: rescan the files</source>
+        <translation>%1 больше нет в игре: пересканируйте файлы</translation>
+    </message>
+    <message>
+        <source>%1 has no entry %2 any more</source>
+        <translation>В %1 больше нет записи %2</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowClass</name>
@@ -1582,12 +1829,16 @@ Restore them (they open modified, not saved) or discard them?</source>
         <translation>Сменить номер %1 на %2</translation>
     </message>
     <message>
+        <source>Delete %1 entries</source>
+        <translation>Удалить записи (%1)</translation>
+    </message>
+    <message>
         <source>Delete entry %1</source>
         <translation>Удалить запись %1</translation>
     </message>
     <message>
-        <source>Delete %1 entries</source>
-        <translation>Удалить записи (%1)</translation>
+        <source>Delete unreadable line %1</source>
+        <translation>Удалить нечитаемую строку %1</translation>
     </message>
     <message>
         <source>Sort by number</source>
@@ -1600,10 +1851,6 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>Replace all “%1”</source>
         <translation>Заменить все «%1»</translation>
-    </message>
-    <message>
-        <source>Delete unreadable line %1</source>
-        <translation>Удалить нечитаемую строку %1</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,7 @@
 #include "DialogOptions.h"
 #include "DialogueEditWidget.h"
 #include "DiskWatcher.h"
+#include "FindInGameDialog.h"
 #include "GameWidget.h"
 #include "Document.h"
 #include "MesWidget.h"
@@ -181,6 +182,9 @@ void MainWindow::createActions()
             box->selectAll();
         }
     });
+    actionFindInGame = new QAction(tr("Find in &game files…"), this);
+    actionFindInGame->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+F")));
+    connect(actionFindInGame, &QAction::triggered, this, &MainWindow::showFindInGame);
     actionRefresh = new QAction(tr("&Rescan files"), this);
     actionRefresh->setShortcut(QKeySequence::Refresh);
     connect(actionRefresh, &QAction::triggered, this, [this] {
@@ -212,7 +216,7 @@ void MainWindow::createMenus()
     redoAction->setObjectName(QStringLiteral("actionRedo"));
     edit->addActions({undoAction, redoAction});
     edit->addSeparator();
-    edit->addActions({actionFind, actionRefresh});
+    edit->addActions({actionFind, actionFindInGame, actionRefresh});
 
     QMenu* view = menuBar()->addMenu(tr("&View"));
     auto* dock = new QDockWidget(tr("Undo history"), this);
@@ -236,6 +240,7 @@ void MainWindow::createMenus()
     actionSaveAs->setObjectName(QStringLiteral("actionSaveAs"));
     actionQuit->setObjectName(QStringLiteral("actionQuit"));
     actionFind->setObjectName(QStringLiteral("actionFind"));
+    actionFindInGame->setObjectName(QStringLiteral("actionFindInGame"));
     actionRefresh->setObjectName(QStringLiteral("actionRefresh"));
     for (QAction* action : findChildren<QAction*>()) {
         action->setToolTip(withKey(action->text().remove(QLatin1Char('&')), action->shortcut()));
@@ -465,6 +470,45 @@ bool MainWindow::openInPage(Page* page, const QString& path)
         reselecting = false;
     }
     return opened;
+}
+
+// ---- find in game ----
+
+FindInGameDialog* MainWindow::showFindInGame()
+{
+    if (findDialog == nullptr) {
+        findDialog = new FindInGameDialog(this);
+        connect(findDialog, &FindInGameDialog::hitActivated, this, &MainWindow::openHit);
+        // Another base directory or module is another game to search.
+        connect(gameWidget, &GameWidget::viewChanged, findDialog, [this] {
+            findDialog->setGame(manager.getBaseDirPath(), gameWidget->view().module(), mesWidget->getCodec());
+        });
+    }
+    findDialog->setGame(manager.getBaseDirPath(), gameWidget->view().module(), mesWidget->getCodec());
+    findDialog->show();
+    findDialog->raise();
+    findDialog->activateWindow();
+    return findDialog;
+}
+
+void MainWindow::openHit(const arcanum::GameSearch::Hit& hit)
+{
+    const arcanum::GameView& view = gameWidget->view();
+    const arcanum::GameView::File* file = view.find(hit.gamePath);
+    Page* page = pageFor(hit.gamePath);
+    if (file == nullptr || page == nullptr) {
+        statusBar()->showMessage(tr("%1 is no longer in the game: rescan the files").arg(hit.file), 5000);
+        return;
+    }
+    gameWidget->open(*file);
+    const QString opened = view.archived(*file) ? view.overridePath(*file) : view.loosePath(*file);
+    if (page->document() == nullptr || QFileInfo(page->document()->path()) != QFileInfo(opened))
+        return; // not opened: the page said why, or the user kept the file it had
+    const bool shown = page == mesWidget ? mesWidget->goToEntry(hit.entry)
+        : page == dialogueWidget         ? dialogueWidget->openLine(hit.entry)
+                                         : true;
+    if (!shown)
+        statusBar()->showMessage(tr("%1 has no entry %2 any more").arg(hit.file).arg(hit.entry), 5000);
 }
 
 // A palette file is no document of its own: it opens in the palette editor, which saves it itself.
