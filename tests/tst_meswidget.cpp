@@ -7,11 +7,16 @@
 #include "ScriptedAnswerer.h"
 #include "UndoChecks.h"
 
+#include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
+#include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QToolButton>
 #include <QTemporaryDir>
 #include <QTextCodec>
 #include <QUndoStack>
@@ -71,6 +76,29 @@ private:
 
     void selectCell(int row, int column) { table()->setCurrentIndex(model()->index(row, column)); }
 
+    QAction* action(const char* name) const { return child<QAction>(name); }
+
+    // Answers the page's number question with text, keeping what the page offered.
+    static std::function<int(QDialog&)> typing(const QString& text, QString* offered = nullptr)
+    {
+        return [text, offered](QDialog& dialog) {
+            auto& input = static_cast<QInputDialog&>(dialog);
+            if (offered)
+                *offered = input.textValue();
+            input.setTextValue(text);
+            return int(QDialog::Accepted);
+        };
+    }
+
+    QByteArray savedBytes()
+    {
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes;
+        if (!page->save())
+            return QByteArray("<not saved>");
+        return FormatChecks::readFile(page->document()->path());
+    }
+
 private slots:
     // The game's code pages first, then each codec once under one name, sorted.
     void encodingListPutsTheGamesCodePagesFirst()
@@ -105,6 +133,7 @@ private slots:
         QCOMPARE(child<QPlainTextEdit>("editCommentary")->toPlainText(), QStringLiteral("// Test items\n"));
         // The row that cannot be read shows its text and cannot be edited.
         QCOMPARE(model()->data(model()->index(3, 1)).toString(), QStringLiteral("{x}{broken}"));
+        QCOMPARE(model()->data(model()->index(3, 0)).toString(), QString()); // no number could be read
         QVERIFY(!(model()->flags(model()->index(3, 1)) & Qt::ItemIsEditable));
         QVERIFY(!(model()->flags(model()->index(0, 0)) & Qt::ItemIsEditable));
         QVERIFY2(page->document()->damage().contains(QStringLiteral("entry 4 (line 6)")), qPrintable(page->document()->damage()));
@@ -242,6 +271,187 @@ private slots:
         answers.buttons << QMessageBox::Yes;
         QVERIFY(page->save());
         QCOMPARE(FormatChecks::readFile(file), QByteArray(russian).replace("Shield", "Buckler"));
+    }
+
+    // Find in game files opens a file at an entry through this.
+    void goToEntrySelectsTheNumber()
+    {
+        open(QStringLiteral("items.mes"), MESSAGES);
+        QVERIFY(page->goToEntry(110));
+        QCOMPARE(table()->currentIndex().row(), 2);
+        QCOMPARE(itemView()->toPlainText(), QStringLiteral("A dagger.\n\tNotched."));
+        QVERIFY(!page->goToEntry(105));
+        QVERIFY(!page->goToEntry(-1));
+        QCOMPARE(table()->currentIndex().row(), 2);
+    }
+
+    // The number offered is the first free one after the selected entry; the new entry lands in number
+    // order, is selected, and its text is typed in the box below: two undo steps, the file on disk exact.
+    void addEntryThenTypeItsText()
+    {
+        open(QStringLiteral("items.mes"), MESSAGES);
+        selectCell(0, 1);
+        ScriptedAnswerer answers;
+        QString offered;
+        answers.dialogs << typing(QStringLiteral("105"), &offered);
+        QTest::mouseClick(child<QToolButton>("buttonAddEntry"), Qt::LeftButton);
+        QCOMPARE(offered, QStringLiteral("102"));
+        QCOMPARE(model()->rowCount(), 5);
+        QCOMPARE(table()->currentIndex(), model()->index(2, 1));
+        QVERIFY(!itemView()->isReadOnly());
+        itemView()->setFocus();
+        QTest::keyClicks(itemView(), QStringLiteral("Lantern"));
+        QCOMPARE(page->document()->undoStack()->count(), 2);
+        QCOMPARE(child<QLineEdit>("completeLine")->text(), QStringLiteral("{105}{Lantern}\n"));
+        QCOMPARE(savedBytes(), QByteArray(MESSAGES).replace("{110}", "{105}{Lantern}\r\n{110}"));
+    }
+
+    void refusedNumbersSayWhy_data()
+    {
+        QTest::addColumn<QString>("tool");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("add: in use") << "actionAddEntry" << "101" << "Number 101 is already in use in items.mes.";
+        QTest::newRow("add: too large") << "actionAddEntry" << "2147483648"
+                                        << "2147483648 is outside 0 … 2147483647: a message file cannot hold that number.";
+        QTest::newRow("add: negative") << "actionAddEntry" << "-3" << "-3 is outside 0 … 2147483647";
+        QTest::newRow("add: not a number") << "actionAddEntry" << "twelve" << "“twelve” is not a number.";
+        QTest::newRow("duplicate: in use") << "actionDuplicateEntry" << "110" << "Number 110 is already in use";
+        QTest::newRow("renumber: in use") << "actionRenumberEntry" << "100" << "Number 100 is already in use";
+        QTest::newRow("renumber: too large") << "actionRenumberEntry" << "4294967296" << "4294967296 is outside";
+        QTest::newRow("go to: absent") << "actionGoToEntry" << "999" << "items.mes has no entry 999.";
+    }
+
+    // Bad numbers are refused with a message naming them; nothing changes and nothing is written.
+    void refusedNumbersSayWhy()
+    {
+        QFETCH(QString, tool);
+        QFETCH(QString, typed);
+        QFETCH(QString, message);
+        const QString file = open(QStringLiteral("items.mes"), MESSAGES);
+        selectCell(1, 1);
+        ScriptedAnswerer answers;
+        answers.dialogs << typing(typed);
+        action(qPrintable(tool))->trigger();
+        QVERIFY(answers.last(QStringLiteral("message")));
+        QVERIFY2(answers.last(QStringLiteral("message"))->text.startsWith(message),
+                 qPrintable(answers.last(QStringLiteral("message"))->text));
+        QCOMPARE(page->document()->undoStack()->count(), 0);
+        QCOMPARE(model()->rowCount(), 4);
+        QCOMPARE(table()->currentIndex(), model()->index(1, 1));
+        QCOMPARE(FormatChecks::readFile(file), MESSAGES);
+    }
+
+    void duplicateRenumberAndDeleteSelected()
+    {
+        open(QStringLiteral("items.mes"), MESSAGES);
+        selectCell(1, 1);
+        ScriptedAnswerer answers;
+        QString offered;
+        answers.dialogs << typing(QStringLiteral("102"), &offered) << typing(QStringLiteral("7"), &offered);
+        action("actionDuplicateEntry")->trigger();
+        QCOMPARE(offered, QStringLiteral("102"));
+        QCOMPARE(model()->data(model()->index(2, 2)).toString(), QStringLiteral("  // needs bullets"));
+        action("actionRenumberEntry")->trigger();
+        QCOMPARE(offered, QStringLiteral("102"));
+        QCOMPARE(model()->data(model()->index(2, 0)).toString(), QStringLiteral("7"));
+        QCOMPARE(child<QLabel>("entryStatus")->text(), QStringLiteral("Entry 102 is now 7"));
+        // Rows 0 and 4 (the unreadable line) go in one step.
+        table()->selectionModel()->select(model()->index(0, 1), QItemSelectionModel::ClearAndSelect);
+        table()->selectionModel()->select(model()->index(4, 1), QItemSelectionModel::Select);
+        action("actionDeleteEntries")->trigger();
+        QCOMPARE(model()->rowCount(), 3);
+        QCOMPARE(child<QLabel>("entryStatus")->text(), QStringLiteral("2 entries deleted"));
+        QCOMPARE(page->document()->undoStack()->undoText(), QStringLiteral("Delete 2 entries"));
+        QCOMPARE(savedBytes(), QByteArrayLiteral("// Test items\r\n{101}{Steam pistol}  // needs bullets\r\n"
+                                                 "{7}{Steam pistol}  // needs bullets\r\n{110}{A dagger.\r\n\tNotched.}\r\n"));
+        page->document()->undoStack()->undo();
+        QCOMPARE(model()->rowCount(), 5);
+        QCOMPARE(model()->data(model()->index(4, 1)).toString(), QStringLiteral("{x}{broken}"));
+    }
+
+    void goToAsksForTheNumber()
+    {
+        open(QStringLiteral("items.mes"), MESSAGES);
+        ScriptedAnswerer answers;
+        answers.dialogs << typing(QStringLiteral("110"));
+        action("actionGoToEntry")->trigger();
+        QCOMPARE(table()->currentIndex().row(), 2);
+        QCOMPARE(answers.count(QStringLiteral("message")), 0);
+    }
+
+    // Sorting is one step and keeps the selected entry selected.
+    void sortKeepsTheSelection()
+    {
+        open(QStringLiteral("mixed.mes"), QByteArrayLiteral("{30}{Helm}\r\n{10}{Sword}\r\n{20}{Shield}\r\n"));
+        selectCell(1, 1);
+        action("actionSortEntries")->trigger();
+        QCOMPARE(table()->currentIndex(), model()->index(0, 1));
+        QCOMPARE(itemView()->toPlainText(), QStringLiteral("Sword"));
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        action("actionSortEntries")->trigger();
+        QCOMPARE(child<QLabel>("entryStatus")->text(), QStringLiteral("The entries are already in number order"));
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QCOMPARE(savedBytes(), QByteArrayLiteral("{10}{Sword}\r\n{20}{Shield}\r\n{30}{Helm}\r\n"));
+    }
+
+    // The bar finds in texts and comments, shows the match in the text box, and replaces all in one step.
+    void findAndReplaceThroughTheBar()
+    {
+        open(QStringLiteral("items.mes"), MESSAGES);
+        page->showFind(true);
+        child<QLineEdit>("findText")->setText(QStringLiteral("DAGGER"));
+        QTest::mouseClick(child<QToolButton>("findNext"), Qt::LeftButton);
+        QCOMPARE(table()->currentIndex(), model()->index(0, 1));
+        QCOMPARE(itemView()->textCursor().selectedText(), QStringLiteral("dagger"));
+        QCOMPARE(child<QLabel>("findStatus")->text(), QStringLiteral("Entry 100 — matches in the file: 2"));
+        QTest::mouseClick(child<QToolButton>("findNext"), Qt::LeftButton);
+        QCOMPARE(table()->currentIndex(), model()->index(2, 1));
+        // With case the capitals find nothing.
+        child<QCheckBox>("matchCase")->setChecked(true);
+        QTest::mouseClick(child<QToolButton>("findNext"), Qt::LeftButton);
+        QCOMPARE(child<QLabel>("findStatus")->text(), QStringLiteral("No match for “DAGGER”"));
+        child<QCheckBox>("matchCase")->setChecked(false);
+        child<QLineEdit>("replaceText")->setText(QStringLiteral("knife"));
+        QTest::mouseClick(child<QToolButton>("replaceAll"), Qt::LeftButton);
+        QCOMPARE(child<QLabel>("findStatus")->text(), QStringLiteral("Matches replaced: 2; cells changed: 2"));
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QCOMPARE(itemView()->toPlainText(), QStringLiteral("A knife.\n\tNotched."));
+        QCOMPARE(savedBytes(), QByteArray(MESSAGES).replace("dagger", "knife"));
+    }
+
+    // Replace takes the match shown and moves on; the replacement is not found again.
+    void replaceOneAtATime()
+    {
+        open(QStringLiteral("items.mes"), QByteArrayLiteral("{1}{cat cat}\r\n{2}{cat}\r\n"));
+        page->showFind(true);
+        child<QLineEdit>("findText")->setText(QStringLiteral("cat"));
+        child<QLineEdit>("replaceText")->setText(QStringLiteral("cats"));
+        auto* replace = child<QToolButton>("replaceOne");
+        QTest::mouseClick(replace, Qt::LeftButton); // finds the first
+        QCOMPARE(page->document()->undoStack()->count(), 0);
+        QTest::mouseClick(replace, Qt::LeftButton);
+        QTest::mouseClick(replace, Qt::LeftButton);
+        QCOMPARE(model()->data(model()->index(0, 1)).toString(), QStringLiteral("cats cats"));
+        QCOMPARE(table()->currentIndex(), model()->index(1, 1));
+        QCOMPARE(page->document()->undoStack()->count(), 2);
+    }
+
+    void toolsFollowTheSelection()
+    {
+        QVERIFY(!action("actionAddEntry")->isEnabled());
+        QVERIFY(!action("actionFindInFile")->isEnabled());
+        open(QStringLiteral("items.mes"), MESSAGES);
+        QVERIFY(action("actionAddEntry")->isEnabled());
+        QVERIFY(action("actionSortEntries")->isEnabled());
+        QVERIFY(!action("actionDuplicateEntry")->isEnabled());
+        selectCell(0, 1);
+        QVERIFY(action("actionDuplicateEntry")->isEnabled());
+        QVERIFY(action("actionDeleteEntries")->isEnabled());
+        selectCell(3, 1);
+        QVERIFY(!action("actionDuplicateEntry")->isEnabled());
+        QVERIFY(!action("actionRenumberEntry")->isEnabled());
+        QVERIFY(action("actionDeleteEntries")->isEnabled());
     }
 
     void wheelLeavesUnfocusedControlsAlone()

@@ -1,6 +1,7 @@
 // The Script tab driven offscreen: rows per line, operand editors, statement changes, line tools, Save.
 #include "DialogNewStatement.h"
 #include "DialogNumType.h"
+#include "DialogSaveScript.h"
 #include "FlowLayout.h"
 #include "FormatChecks.h"
 #include "ScriptDocument.h"
@@ -12,6 +13,7 @@
 #include "TokensWidget.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -112,6 +114,31 @@ private:
     }
 
     static Script& script(ScriptWidget& page) { return page.scriptDocument()->script(); }
+
+    // A folder of its own holding the guard as 00012guard.scr and another script, 00013other.scr.
+    QString scriptFolder(const QString& folder)
+    {
+        QDir(dir.path()).mkpath(folder);
+        const QString guard = writeGuard(folder + QStringLiteral("/00012guard.scr"));
+        QFile::copy(guard, dir.filePath(folder + QStringLiteral("/00013other.scr")));
+        return dir.filePath(folder);
+    }
+
+    // Answers the Save As question with a number and a name, keeping what the dialog offered.
+    static std::function<int(QDialog&)> saveUnder(const QString& number, const QString& name,
+                                                  QString* offered = nullptr)
+    {
+        return [number, name, offered](QDialog& dialog) {
+            auto* numberEdit = dialog.findChild<QLineEdit*>(QStringLiteral("scriptNumber"));
+            auto* nameEdit = dialog.findChild<QLineEdit*>(QStringLiteral("scriptName"));
+            if (offered)
+                *offered = numberEdit->text() + QLatin1Char('|') + nameEdit->text() + QLatin1Char('|')
+                           + dialog.findChild<QLabel*>(QStringLiteral("scriptFileName"))->text();
+            numberEdit->setText(number);
+            nameEdit->setText(name);
+            return int(QDialog::Accepted);
+        };
+    }
 
     static void saveWith(ScriptWidget& page, ScriptedAnswerer& answers, QMessageBox::StandardButton answer)
     {
@@ -313,6 +340,100 @@ private slots:
         readOnly->setChecked(false);
         QVERIFY(save->isEnabled());
         QVERIFY(page.rows().at(0)->isEnabled());
+    }
+
+    // Save As offers the next free number and the script's name, writes the script (with its unsaved
+    // edits) under the new number and shows that file; the old file stays as it was.
+    void saveAsStartsANewScript()
+    {
+        const QString folder = scriptFolder(QStringLiteral("saveas"));
+        const QString original = folder + QStringLiteral("/00012guard.scr");
+        const QByteArray before = FormatChecks::readFile(original);
+        ScriptWidget page;
+        QVERIFY(openScript(page, original));
+        page.findChild<QLineEdit*>(QStringLiteral("editDesc"))->setText(QStringLiteral("Gatekeeper"));
+        QTest::keyClick(page.findChild<QLineEdit*>(QStringLiteral("editDesc")), Qt::Key_A);
+        ScriptedAnswerer answers;
+        QString offered;
+        answers.dialogs << saveUnder(QStringLiteral("42"), QStringLiteral("gatekeeper"), &offered);
+        QVERIFY(page.saveAs());
+        QCOMPARE(offered, QStringLiteral("14|guard|00014guard.scr"));
+        const QString created = folder + QStringLiteral("/00042gatekeeper.scr");
+        QCOMPARE(page.document()->path(), created);
+        QVERIFY(!page.document()->isModified());
+        QCOMPARE(page.findChild<QLabel*>(QStringLiteral("labelHeader"))->text(), QStringLiteral("42"));
+        QCOMPARE(script(page).getId(), 42);
+        QCOMPARE(FormatChecks::readFile(original), before);
+        QByteArray written;
+        QString error;
+        QVERIFY(page.document()->serialize(written, error));
+        QCOMPARE(FormatChecks::readFile(created), written);
+        QVERIFY(written.contains("Gatekeepera"));
+        // The line tools keep their state: a new line can be added and deleted in the new file.
+        QVERIFY(page.findChild<QPushButton*>(QStringLiteral("buttonNewIF"))->isEnabled());
+        QVERIFY(page.findChild<QPushButton*>(QStringLiteral("buttonNewDO"))->isEnabled());
+        QCOMPARE(page.rows().size(), 5);
+        QVERIFY(page.rows().at(0)->isEnabled());
+    }
+
+    void saveAsRefuses_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("its own number") << "12" << "copy" << "Script number 12 is already in use.";
+        QTest::newRow("another script's number") << "00013" << "copy" << "Script number 13 is already in use.";
+        QTest::newRow("a number listed in the game") << "77" << "copy" << "Script number 77 is already in use.";
+        QTest::newRow("zero") << "0" << "copy" << "0 is outside 1 … 99999: a script number has five digits.";
+        QTest::newRow("six digits") << "100000" << "copy" << "100000 is outside 1 … 99999";
+        QTest::newRow("not a number") << "twelve" << "copy" << "“twelve” is not a number.";
+        QTest::newRow("no name") << "50" << " " << "“” cannot be a script's name";
+        QTest::newRow("a folder in the name") << "50" << "a/b" << "“a/b” cannot be a script's name";
+    }
+
+    // A refused Save As says why, writes no file and keeps the page on the old file.
+    void saveAsRefuses()
+    {
+        QFETCH(QString, number);
+        QFETCH(QString, name);
+        QFETCH(QString, message);
+        const QString folder = scriptFolder(QStringLiteral("refused"));
+        const QStringList files = QDir(folder).entryList(QDir::Files);
+        ScriptWidget page;
+        page.setListedScripts([] { return QStringList{QStringLiteral("00077archived.scr")}; });
+        QVERIFY(openScript(page, folder + QStringLiteral("/00012guard.scr")));
+        ScriptedAnswerer answers;
+        answers.dialogs << saveUnder(number, name);
+        QVERIFY(!page.saveAs());
+        QVERIFY(answers.last(QStringLiteral("message")));
+        QVERIFY2(answers.last(QStringLiteral("message"))->text.startsWith(message),
+                 qPrintable(answers.last(QStringLiteral("message"))->text));
+        QCOMPARE(QDir(folder).entryList(QDir::Files), files);
+        QCOMPARE(page.document()->path(), folder + QStringLiteral("/00012guard.scr"));
+        // Cancelling asks nothing more and writes nothing.
+        QVERIFY(!page.saveAs());
+        QCOMPARE(answers.count(QStringLiteral("message")), 1);
+    }
+
+    void saveAsFileNames_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("padded to five digits") << "7" << "door" << "00007door.scr";
+        QTest::newRow("the largest") << " 99999 " << "end" << "99999end.scr";
+        QTest::newRow("the suffix is not doubled") << "1" << "start.SCR" << "00001start.scr";
+        QTest::newRow("spaces inside are kept") << "300" << " old man " << "00300old man.scr";
+    }
+
+    void saveAsFileNames()
+    {
+        QFETCH(QString, number);
+        QFETCH(QString, name);
+        QFETCH(QString, file);
+        QString error;
+        QCOMPARE(ScriptDocument::fileNameFor(number, name, {}, error), file);
+        QCOMPARE(ScriptDocument::numberOf(file), number.trimmed().toInt());
     }
 
     void newLinesAppend()

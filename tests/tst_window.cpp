@@ -10,6 +10,7 @@
 #include "GameWidget.h"
 #include "MesWidget.h"
 #include "Page.h"
+#include "PageFrame.h"
 #include "RecoveryStore.h"
 #include "ScriptWidget.h"
 #include "ScriptedAnswerer.h"
@@ -19,6 +20,7 @@
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -316,6 +318,75 @@ private slots:
         QTest::keyClick(window.findChild<QTreeWidget*>(QStringLiteral("treeMes")), Qt::Key_X, Qt::ControlModifier);
         QCOMPARE(answers.count(QStringLiteral("question")), 1);
         QVERIFY(window.isVisible());
+    }
+
+    // Ctrl+F finds in the open message file while the Mes page has the focus and filters the file list
+    // elsewhere; Ctrl+H is the page's Replace, so the undo history moved to Ctrl+Shift+H.
+    void findKeysFollowTheFocus()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        openItems(window, game);
+        auto* view = window.mesPage()->findChild<QTableView*>(QStringLiteral("table"));
+        auto* findBar = window.mesPage()->findChild<QWidget*>(QStringLiteral("findBar"));
+        auto* replaceText = window.mesPage()->findChild<QLineEdit*>(QStringLiteral("replaceText"));
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(findBar->isVisible());
+        QVERIFY(!replaceText->isVisible());
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("findText"));
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_H, Qt::ControlModifier);
+        QVERIFY(replaceText->isVisible());
+        // The table's own keys: Ctrl+G asks for a number, Delete removes the selected entry.
+        ScriptedAnswerer answers;
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_G, Qt::ControlModifier);
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
+        const int rows = view->model()->rowCount();
+        view->setCurrentIndex(view->model()->index(0, 1));
+        QTest::keyClick(view, Qt::Key_Delete);
+        QCOMPARE(view->model()->rowCount(), rows - 1);
+        window.mesPage()->document()->undoStack()->undo();
+        QCOMPARE(view->model()->rowCount(), rows);
+        auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget(), window.findChild<QLineEdit*>(QStringLiteral("fileFilter1")));
+        auto* history = window.findChild<QDockWidget*>(QStringLiteral("undoHistoryDock"));
+        QVERIFY(!history->isVisible());
+        QTest::keyClick(tree, Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(history->isVisible());
+    }
+
+    // Save As from the frame writes the script under its new number and name; the list shows the new
+    // file and New and Delete stay as they were (disabled: a new script starts with Save As).
+    void scriptSaveAsShowsTheNewFile()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.openFiles({game.path(QStringLiteral("/data/scr/00001gate_guard.scr"))});
+        QVERIFY(window.scriptPage()->document());
+        ScriptedAnswerer answers;
+        answers.dialogs << [](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>(QStringLiteral("scriptNumber"))->setText(QStringLiteral("50"));
+            dialog.findChild<QLineEdit*>(QStringLiteral("scriptName"))->setText(QStringLiteral("night_guard"));
+            return int(QDialog::Accepted);
+        };
+        auto* frame = qobject_cast<PageFrame*>(window.scriptPage()->parentWidget());
+        QVERIFY(frame);
+        QTest::mouseClick(frame->findChild<QPushButton*>(QStringLiteral("frameSaveAs")), Qt::LeftButton);
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
+        const QString created = game.path(QStringLiteral("/data/scr/00050night_guard.scr"));
+        QCOMPARE(window.scriptPage()->document()->path(), created);
+        QCOMPARE(game.bytes(QStringLiteral("/data/scr/00050night_guard.scr")),
+                 game.bytes(QStringLiteral("/data/scr/00001gate_guard.scr")));
+        auto* list = window.findChild<QListWidget*>(QStringLiteral("listScripts"));
+        QCOMPARE(list->findItems(QStringLiteral("00050night_guard.scr"), Qt::MatchExactly).size(), 1);
+        for (const char* name : {"buttonScriptNew", "buttonScriptDelete"})
+            QVERIFY(!window.findChild<QPushButton*>(QString::fromLatin1(name))->isEnabled());
     }
 
     void dropOpensInItsPage()

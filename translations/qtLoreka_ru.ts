@@ -873,6 +873,33 @@
     </message>
 </context>
 <context>
+    <name>DialogSaveScript</name>
+    <message>
+        <source>Save script as</source>
+        <translation>Сохранить скрипт как</translation>
+    </message>
+    <message>
+        <source>The script&apos;s number, 1 to 99999: the game finds the script by it</source>
+        <translation>Номер скрипта, от 1 до 99999: по нему игра находит скрипт</translation>
+    </message>
+    <message>
+        <source>The rest of the file name, for people: what the script is for</source>
+        <translation>Остальная часть имени файла, для людей: для чего этот скрипт</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Номер:</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Имя:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Файл:</translation>
+    </message>
+</context>
+<context>
     <name>DialogueDocument</name>
     <message>
         <source>Saving in %1 would change %2 line(s) of the file that do not read cleanly in it (first: line %3).</source>
@@ -1450,6 +1477,85 @@
     </message>
 </context>
 <context>
+    <name>FindBar</name>
+    <message>
+        <source>Match case</source>
+        <translation>С учётом регистра</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Слова целиком</translation>
+    </message>
+    <message>
+        <source>Find in texts and comments</source>
+        <translation>Найти в текстах и комментариях</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Find&lt;/b&gt;&lt;br/&gt;Looks through the texts and comments of this file. Enter finds the next match, Shift+Enter the one before, Escape closes the bar.</source>
+        <translation>&lt;b&gt;Найти&lt;/b&gt;&lt;br/&gt;Ищет в текстах и комментариях этого файла. Enter находит следующее совпадение, Shift+Enter — предыдущее, Escape закрывает панель.</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Заменить на</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Replace with&lt;/b&gt;&lt;br/&gt;Written in place of each match, exactly as typed.</source>
+        <translation>&lt;b&gt;Заменить на&lt;/b&gt;&lt;br/&gt;Пишется вместо каждого совпадения в точности как набрано.</translation>
+    </message>
+    <message>
+        <source>Find only matches with the same capitals</source>
+        <translation>Находить только совпадения с теми же заглавными буквами</translation>
+    </message>
+    <message>
+        <source>Find only matches that are whole words, not parts of longer words</source>
+        <translation>Находить только целые слова, а не части более длинных слов</translation>
+    </message>
+    <message>
+        <source>What the last search or replacement found</source>
+        <translation>Что нашёл последний поиск или замена</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Find the match before (Shift+Enter)</source>
+        <translation>Найти предыдущее совпадение (Shift+Enter)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Далее</translation>
+    </message>
+    <message>
+        <source>Find the next match (Enter)</source>
+        <translation>Найти следующее совпадение (Enter)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Escape)</source>
+        <translation>Закрыть панель поиска (Escape)</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Replace the match shown, then find the next one</source>
+        <translation>Заменить показанное совпадение и найти следующее</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Заменить все</translation>
+    </message>
+    <message>
+        <source>Replace every match in the file as one undo step</source>
+        <translation>Заменить все совпадения в файле одним шагом отмены</translation>
+    </message>
+</context>
+<context>
     <name>FindInGameDialog</name>
     <message>
         <source>Find in game files</source>
@@ -1952,10 +2058,6 @@ Restore them (they open modified, not saved) or discard them?</source>
         <translation>Новый</translation>
     </message>
     <message>
-        <source>Start a new script file</source>
-        <translation>Начать новый файл скрипта</translation>
-    </message>
-    <message>
         <source>Delete the selected script file</source>
         <translation>Удалить выбранный файл скрипта</translation>
     </message>
@@ -2011,6 +2113,10 @@ Restore them (they open modified, not saved) or discard them?</source>
         <source>Ctrl+Del</source>
         <translation>Ctrl+Del</translation>
     </message>
+    <message>
+        <source>Not available: a new script starts from an open one with Save As…, which asks for its number and name</source>
+        <translation>Недоступно: новый скрипт начинается с открытого через «Сохранить как…», который спрашивает его номер и имя</translation>
+    </message>
 </context>
 <context>
     <name>MesDocument</name>
@@ -2046,12 +2152,17 @@ Restore them (they open modified, not saved) or discard them?</source>
         <source>Pick the file&apos;s encoding below before editing.</source>
         <translation>Перед правкой выберите ниже кодировку файла.</translation>
     </message>
-</context>
-<context>
-    <name>MesTableModel</name>
     <message>
-        <source>Line %1 cannot be read: %2. It is written back exactly as read.</source>
-        <translation>Строку %1 не удалось прочитать: %2. Она записывается обратно в точности как прочитана.</translation>
+        <source>“%1” is not a number.</source>
+        <translation>«%1» — не число.</translation>
+    </message>
+    <message>
+        <source>%1 is outside 0 … %2: a message file cannot hold that number.</source>
+        <translation>%1 вне диапазона 0 … %2: такой номер в файле сообщений невозможен.</translation>
+    </message>
+    <message>
+        <source>Number %1 is already in use in %2.</source>
+        <translation>Номер %1 уже занят в %2.</translation>
     </message>
     <message>
         <source>Edit comment of %1</source>
@@ -2060,6 +2171,57 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>Edit text of %1</source>
         <translation>Изменить текст %1</translation>
+    </message>
+    <message>
+        <source>Add entry %1</source>
+        <translation>Добавить запись %1</translation>
+    </message>
+    <message>
+        <source>Only an entry that could be read can be duplicated.</source>
+        <translation>Дублировать можно только прочитанную запись.</translation>
+    </message>
+    <message>
+        <source>Duplicate entry %1 as %2</source>
+        <translation>Дублировать запись %1 как %2</translation>
+    </message>
+    <message>
+        <source>Only an entry that could be read can be renumbered.</source>
+        <translation>Перенумеровать можно только прочитанную запись.</translation>
+    </message>
+    <message>
+        <source>Change number %1 to %2</source>
+        <translation>Сменить номер %1 на %2</translation>
+    </message>
+    <message>
+        <source>Delete %1 entries</source>
+        <translation>Удалить записи (%1)</translation>
+    </message>
+    <message>
+        <source>Delete entry %1</source>
+        <translation>Удалить запись %1</translation>
+    </message>
+    <message>
+        <source>Delete unreadable line %1</source>
+        <translation>Удалить нечитаемую строку %1</translation>
+    </message>
+    <message>
+        <source>Sort by number</source>
+        <translation>Сортировать по номеру</translation>
+    </message>
+    <message>
+        <source>Replace in %1</source>
+        <translation>Замена в %1</translation>
+    </message>
+    <message>
+        <source>Replace all “%1”</source>
+        <translation>Заменить все «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>MesTableModel</name>
+    <message>
+        <source>Line %1 cannot be read: %2. It is written back exactly as read.</source>
+        <translation>Строку %1 не удалось прочитать: %2. Она записывается обратно в точности как прочитана.</translation>
     </message>
 </context>
 <context>
@@ -2131,6 +2293,154 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>Edit header</source>
         <translation>Изменить заголовок</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Добавить…</translation>
+    </message>
+    <message>
+        <source>Add an entry: the next free number is offered, any free one can be typed</source>
+        <translation>Добавить запись: предлагается следующий свободный номер, можно ввести любой свободный</translation>
+    </message>
+    <message>
+        <source>Duplicate…</source>
+        <translation>Дублировать…</translation>
+    </message>
+    <message>
+        <source>Copy the selected entry, text and comment, under a new number</source>
+        <translation>Скопировать выбранную запись, текст и комментарий, под новым номером</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete the selected entries (one undo step)</source>
+        <translation>Удалить выбранные записи (один шаг отмены)</translation>
+    </message>
+    <message>
+        <source>Renumber…</source>
+        <translation>Перенумеровать…</translation>
+    </message>
+    <message>
+        <source>Give the selected entry another number; a number in use is refused (or double-click the number)</source>
+        <translation>Дать выбранной записи другой номер; занятый номер не принимается (или дважды щёлкните номер)</translation>
+    </message>
+    <message>
+        <source>Go to…</source>
+        <translation>Перейти…</translation>
+    </message>
+    <message>
+        <source>Select the entry with a number</source>
+        <translation>Выбрать запись по номеру</translation>
+    </message>
+    <message>
+        <source>Sort by number</source>
+        <translation>Сортировать по номеру</translation>
+    </message>
+    <message>
+        <source>Put the entries in number order, each with its comment lines (one undo step)</source>
+        <translation>Расставить записи по номерам, каждую со строками её комментария (один шаг отмены)</translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <translation>Найти…</translation>
+    </message>
+    <message>
+        <source>Find in the texts and comments of this file (%1 in the table)</source>
+        <translation>Найти в текстах и комментариях этого файла (%1 в таблице)</translation>
+    </message>
+    <message>
+        <source>Replace…</source>
+        <translation>Заменить…</translation>
+    </message>
+    <message>
+        <source>Find and replace in the texts and comments of this file (%1)</source>
+        <translation>Найти и заменить в текстах и комментариях этого файла (%1)</translation>
+    </message>
+    <message>
+        <source>What the last entry tool did</source>
+        <translation>Что сделала последняя команда над записями</translation>
+    </message>
+    <message>
+        <source>Add entry</source>
+        <translation>Добавить запись</translation>
+    </message>
+    <message>
+        <source>Number of the new entry:</source>
+        <translation>Номер новой записи:</translation>
+    </message>
+    <message>
+        <source>Entry %1 added</source>
+        <translation>Запись %1 добавлена</translation>
+    </message>
+    <message>
+        <source>Duplicate entry</source>
+        <translation>Дублировать запись</translation>
+    </message>
+    <message>
+        <source>Number of the copy of %1:</source>
+        <translation>Номер копии записи %1:</translation>
+    </message>
+    <message>
+        <source>Entry %1 copied as %2</source>
+        <translation>Запись %1 скопирована как %2</translation>
+    </message>
+    <message>
+        <source>1 entry deleted</source>
+        <translation>Удалена 1 запись</translation>
+    </message>
+    <message>
+        <source>%1 entries deleted</source>
+        <translation>Удалено записей: %1</translation>
+    </message>
+    <message>
+        <source>Renumber entry</source>
+        <translation>Перенумеровать запись</translation>
+    </message>
+    <message>
+        <source>New number of entry %1:</source>
+        <translation>Новый номер записи %1:</translation>
+    </message>
+    <message>
+        <source>Entry %1 is now %2</source>
+        <translation>Запись %1 теперь %2</translation>
+    </message>
+    <message>
+        <source>Go to entry</source>
+        <translation>Перейти к записи</translation>
+    </message>
+    <message>
+        <source>Number of the entry:</source>
+        <translation>Номер записи:</translation>
+    </message>
+    <message>
+        <source>%1 has no entry %2.</source>
+        <translation>В %1 нет записи %2.</translation>
+    </message>
+    <message>
+        <source>Entries sorted by number</source>
+        <translation>Записи отсортированы по номеру</translation>
+    </message>
+    <message>
+        <source>The entries are already in number order</source>
+        <translation>Записи уже стоят по порядку номеров</translation>
+    </message>
+    <message>
+        <source>No match for “%1”</source>
+        <translation>Нет совпадений с «%1»</translation>
+    </message>
+    <message>
+        <source>Entry %1 — matches in the file: %2</source>
+        <translation>Запись %1 — совпадений в файле: %2</translation>
+    </message>
+    <message>
+        <source>No match for “%1”: nothing replaced</source>
+        <translation>Нет совпадений с «%1»: ничего не заменено</translation>
+    </message>
+    <message>
+        <source>Matches replaced: %1; cells changed: %2</source>
+        <translation>Заменено совпадений: %1; изменено ячеек: %2</translation>
     </message>
 </context>
 <context>
@@ -2784,6 +3094,22 @@ Restore them (they open modified, not saved) or discard them?</source>
         <source>%1 of %2 lines hold statements no script uses (first: %3); the file is probably not a script</source>
         <translation>%1 из %2 строк содержат операторы, которых не бывает в скриптах (первая: %3); вероятно, это не скрипт</translation>
     </message>
+    <message>
+        <source>“%1” is not a number.</source>
+        <translation>«%1» — не число.</translation>
+    </message>
+    <message>
+        <source>%1 is outside 1 … %2: a script number has five digits.</source>
+        <translation>%1 вне диапазона 1 … %2: номер скрипта состоит из пяти цифр.</translation>
+    </message>
+    <message>
+        <source>Script number %1 is already in use.</source>
+        <translation>Номер скрипта %1 уже занят.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be a script&apos;s name: it must not be empty or hold any of \ / : * ? &quot; &lt; &gt; |.</source>
+        <translation>«%1» не может быть именем скрипта: оно не должно быть пустым или содержать \ / : * ? " &lt; &gt; |.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptWidget</name>
@@ -2874,6 +3200,10 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>Write the script in place (Ctrl+S)</source>
         <translation>Записать скрипт на место (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save script as</source>
+        <translation>Сохранить скрипт как</translation>
     </message>
 </context>
 <context>

@@ -87,6 +87,12 @@ MainWindow::MainWindow(QWidget* parent)
 
     scriptWidget = new ScriptWidget(this);
     scriptWidget->setMinimumHeight(280);
+    scriptWidget->setListedScripts([this] {
+        QStringList names;
+        for (int i = 0; i < ui->listScripts->count(); ++i)
+            names.append(ui->listScripts->item(i)->text());
+        return names;
+    });
     addPage(scriptWidget, ui->scriptsRightLayout, ui->tabWidget->indexOf(ui->tabScripts),
             tr("Pick a script in the list on the left, or open one with Ctrl+O."));
     mesWidget = new MesWidget(this);
@@ -165,6 +171,11 @@ void MainWindow::createActions()
     actionFind = new QAction(tr("&Find file"), this);
     actionFind->setShortcut(QKeySequence::Find);
     connect(actionFind, &QAction::triggered, this, [this] {
+        // In the Mes page the key finds in the open file; everywhere else it filters the file list.
+        if (mesWidget->document() != nullptr && mesWidget->isAncestorOf(QApplication::focusWidget())) {
+            mesWidget->showFind(false);
+            return;
+        }
         const size_t tab = size_t(ui->tabWidget->currentIndex());
         QLineEdit* box = tab < filters.size() ? filters.at(tab) : gameWidget->findChild<QLineEdit*>();
         if (box) {
@@ -227,7 +238,8 @@ void MainWindow::createMenus()
     dock->hide();
     actionHistory = dock->toggleViewAction();
     actionHistory->setText(tr("Undo &history"));
-    actionHistory->setShortcut(QKeySequence(QStringLiteral("Ctrl+H")));
+    // Ctrl+H is Replace in the Mes page.
+    actionHistory->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+H")));
     view->addAction(actionHistory);
 
     QMenu* help = menuBar()->addMenu(tr("&Help"));

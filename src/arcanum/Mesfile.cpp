@@ -9,6 +9,9 @@
 #include <QTextStream>
 #include <QtDebug>
 
+#include <algorithm>
+#include <numeric>
+
 namespace arcanum {
 
 namespace {
@@ -111,6 +114,7 @@ int Mesfile::Entry::parseIndex(const QString& chunk)
         return -1;
     }
     mesIndex = index;
+    numbered = true;
     skeleton = chunk;
     skeleton.remove(open + 1, close - open - 1);
     return open + 1;
@@ -282,6 +286,88 @@ Mesfile::Entry* Mesfile::appendEntry(const QString& line)
         chunk += QLatin1Char('\n');
     entries.emplace_back(newEntry(chunk));
     return entries.back().get();
+}
+
+int Mesfile::positionOf(int number) const
+{
+    for (size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i]->hasMesIndex() && entries[i]->getMesIndex() == number)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+std::unique_ptr<Mesfile::Entry> Mesfile::makeEntry(int number)
+{
+    QString chunk = OPEN_CHAR + QString::number(number) + CLOSE_CHAR;
+    for (unsigned i = 0; i < getItemCount(); ++i)
+        chunk += OPEN_CHAR + QString(CLOSE_CHAR);
+    chunk += QLatin1Char('\n');
+    return std::unique_ptr<Entry>(newEntry(chunk));
+}
+
+int Mesfile::orderedPosition(int number) const
+{
+    int position = 0;
+    int nearest = -1;
+    for (size_t i = 0; i < entries.size(); ++i) {
+        const Entry& entry = *entries[i];
+        if (entry.hasMesIndex() && entry.getMesIndex() < number && entry.getMesIndex() >= nearest) {
+            nearest = entry.getMesIndex();
+            position = static_cast<int>(i) + 1;
+        }
+    }
+    while (position > 0 && position < getEntryCount() && !entries[size_t(position)]->hasMesIndex())
+        ++position;
+    return position;
+}
+
+void Mesfile::insertEntry(int position, std::unique_ptr<Entry> entry)
+{
+    const int at = std::clamp(position, 0, getEntryCount());
+    entries.insert(entries.begin() + at, std::move(entry));
+}
+
+std::unique_ptr<Mesfile::Entry> Mesfile::takeEntry(int position)
+{
+    if (position < 0 || position >= getEntryCount())
+        return nullptr;
+    std::unique_ptr<Entry> taken = std::move(entries[size_t(position)]);
+    entries.erase(entries.begin() + position);
+    return taken;
+}
+
+std::vector<int> Mesfile::numberOrder() const
+{
+    std::vector<qint64> keys(entries.size());
+    qint64 previous = -1;
+    for (size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i]->hasMesIndex())
+            previous = entries[i]->getMesIndex();
+        keys[i] = previous;
+    }
+    std::vector<int> order(entries.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&keys](int a, int b) { return keys[size_t(a)] < keys[size_t(b)]; });
+    return order;
+}
+
+void Mesfile::reorder(const std::vector<int>& order)
+{
+    // Anything but a rearrangement of every position would lose entries.
+    std::vector<bool> used(entries.size(), false);
+    for (int from : order) {
+        if (from < 0 || size_t(from) >= used.size() || used[size_t(from)])
+            return;
+        used[size_t(from)] = true;
+    }
+    if (order.size() != entries.size())
+        return;
+    std::vector<std::unique_ptr<Entry>> arranged;
+    arranged.reserve(entries.size());
+    for (int from : order)
+        arranged.push_back(std::move(entries.at(size_t(from))));
+    entries = std::move(arranged);
 }
 
 QString Mesfile::trimFront(const QString& line)

@@ -40,8 +40,14 @@ public:
         QString getComment() const { return comment; }
         void setComment(const QString& text) { comment = text; }
         bool isValid() const { return valid; }
+        // Whether the entry's number could be read (a line that fails later still has one).
+        bool hasMesIndex() const { return numbered; }
         int getMesIndex() const { return mesIndex; }
-        void setMesIndex(int index) { mesIndex = index; }
+        void setMesIndex(int index)
+        {
+            mesIndex = index;
+            numbered = true;
+        }
         // The 1-based line of the file the entry starts on; 0 for an entry not read from a file.
         int getSourceLine() const { return sourceLine; }
         void setSourceLine(int line) { sourceLine = line; }
@@ -64,6 +70,7 @@ public:
         bool valid = false;
         QString comment;
         int mesIndex = 0;
+        bool numbered = false;
         int sourceLine = 0;
     };
 
@@ -114,6 +121,22 @@ public:
     void clear();
     // Adds an entry parsed from line, as if it had been read at the end of the file.
     Entry* appendEntry(const QString& line);
+
+    // The position of the entry numbered number, -1 when no entry carries it.
+    int positionOf(int number) const;
+    // A new entry numbered number, every field empty, written "{number}{}" (one "{}" per item).
+    std::unique_ptr<Entry> makeEntry(int number);
+    // Where an entry numbered number goes to keep the file in number order: after the entry with the
+    // nearest lower number and the unreadable lines that follow it; at the top when none is lower.
+    int orderedPosition(int number) const;
+    // Puts entry at position (0 … count), or takes the entry at position out; the caller holds it meanwhile.
+    void insertEntry(int position, std::unique_ptr<Entry> entry);
+    std::unique_ptr<Entry> takeEntry(int position);
+    // The positions of the entries in number order (stable: equal numbers keep their order, and a line
+    // without a readable number stays behind the entry it followed).
+    std::vector<int> numberOrder() const;
+    // Rearranges the entries: position i gets the entry that was at order[i].
+    void reorder(const std::vector<int>& order);
 
     // Removes spaces and tabs, and only those, from the front.
     static QString trimFront(const QString& line);

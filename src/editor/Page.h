@@ -37,7 +37,8 @@ public:
     void setDocument(std::unique_ptr<Document> document);
     // Saves in place (Save As when the document has no path yet); false when cancelled or failed.
     bool save();
-    bool saveAs();
+    // Asks for a new file name and saves there; a page whose files are named by rule asks its own way.
+    virtual bool saveAs();
     // Asks for a file of this page's kind and opens it.
     void browse();
     // The folder file dialogs start in when no document is open.

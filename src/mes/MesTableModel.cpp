@@ -1,17 +1,14 @@
 #include "MesTableModel.h"
 
 #include "MesDocument.h"
-#include "ValueCommand.h"
 
 #include <QBrush>
 #include <QFont>
-#include <QPointer>
-#include <QUndoStack>
+#include <QHash>
 
 using arcanum::Mesfile;
 
 namespace {
-const int CELL_MERGE_ID = 1001;
 const QColor INVALID_ROW_COLOUR(0xA0, 0x10, 0x10);
 } // namespace
 
@@ -27,11 +24,51 @@ void MesTableModel::setDocument(MesDocument* document)
         disconnect(shown, nullptr, this, nullptr);
     shown = document;
     if (shown != nullptr)
-        connect(shown, &MesDocument::cellChanged, this, [this](int entry, int column) {
-            const QModelIndex cell = index(entry, column);
-            emit dataChanged(cell, cell);
-        });
+        followDocument();
     endResetModel();
+}
+
+void MesTableModel::followDocument()
+{
+    connect(shown, &MesDocument::cellChanged, this, [this](int entry, int column) {
+        const QModelIndex cell = index(entry, column);
+        emit dataChanged(cell, cell);
+    });
+    connect(shown, &MesDocument::entryAboutToBeInserted, this,
+            [this](int position) { beginInsertRows(QModelIndex(), position, position); });
+    connect(shown, &MesDocument::entryInserted, this, [this] { endInsertRows(); });
+    connect(shown, &MesDocument::entryAboutToBeRemoved, this,
+            [this](int position) { beginRemoveRows(QModelIndex(), position, position); });
+    connect(shown, &MesDocument::entryRemoved, this, [this] { endRemoveRows(); });
+    connect(shown, &MesDocument::entriesAboutToBeReordered, this, [this] {
+        emit layoutAboutToBeChanged();
+        rememberEntries();
+    });
+    connect(shown, &MesDocument::entriesReordered, this, [this] {
+        moveToRememberedEntries();
+        emit layoutChanged();
+    });
+}
+
+void MesTableModel::rememberEntries()
+{
+    remembered = persistentIndexList();
+    rememberedEntries.clear();
+    for (const QModelIndex& cell : remembered)
+        rememberedEntries.append(shown->model().getEntryAt(cell.row()));
+}
+
+void MesTableModel::moveToRememberedEntries()
+{
+    QHash<const void*, int> rows;
+    for (int row = 0; row < shown->model().getEntryCount(); ++row)
+        rows.insert(shown->model().getEntryAt(row), row);
+    QModelIndexList moved;
+    for (int i = 0; i < remembered.size(); ++i)
+        moved.append(index(rows.value(rememberedEntries.at(i), remembered.at(i).row()), remembered.at(i).column()));
+    changePersistentIndexList(remembered, moved);
+    remembered.clear();
+    rememberedEntries.clear();
 }
 
 int MesTableModel::rowCount(const QModelIndex& parent) const
@@ -103,19 +140,6 @@ bool MesTableModel::setData(const QModelIndex& index, const QVariant& value, int
 {
     if (shown == nullptr || role != Qt::EditRole || !shown->isEditable(index.row(), index.column()))
         return false;
-    editCell(shown, index.row(), index.column(), value.toString());
+    shown->editCell(index.row(), index.column(), value.toString());
     return true;
-}
-
-void MesTableModel::editCell(MesDocument* document, int entry, int column, const QString& text)
-{
-    const QString old = document->cell(entry, column);
-    const bool comment = column == document->columnCount() - 1;
-    const QString what = comment ? tr("Edit comment of %1") : tr("Edit text of %1");
-    QPointer<MesDocument> target(document);
-    pushValue<QString>(document->undoStack(), what.arg(document->cell(entry, 0)), CELL_MERGE_ID,
-                       entry * 256 + column, old, text, [target, entry, column](const QString& value) {
-                           if (target)
-                               target->applyCell(entry, column, value);
-                       });
 }

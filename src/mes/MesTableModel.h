@@ -23,9 +23,13 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
-    // Pushes the edit of one cell (typing into the same cell merges into one step).
-    static void editCell(MesDocument* document, int entry, int column, const QString& text);
-
 private:
+    void followDocument();
+    // Selections and the current cell stay on their entries while the entries are sorted.
+    void rememberEntries();
+    void moveToRememberedEntries();
+
     MesDocument* shown = nullptr;
+    QModelIndexList remembered;
+    QList<const void*> rememberedEntries;
 };

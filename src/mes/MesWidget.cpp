@@ -2,6 +2,7 @@
 
 #include "FormatRegistry.h"
 
+#include "FindBar.h"
 #include "MesDocument.h"
 #include "MesTableModel.h"
 #include "Prompt.h"
@@ -9,13 +10,20 @@
 #include "WheelGuard.h"
 #include "ui_MesWidget.h"
 
+#include <QAction>
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QInputDialog>
+#include <QLabel>
 #include <QSignalBlocker>
 #include <QTextCodec>
 #include <QTextCursor>
+#include <QToolButton>
 #include <QUndoStack>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <set>
 
 using arcanum::Mesfile;
 
@@ -33,6 +41,7 @@ MesWidget::MesWidget(QWidget* parent, const QString& encoding)
     , table(new MesTableModel(this))
 {
     ui->setupUi(this);
+    createEntryTools();
     ui->table->setModel(table);
     lineToolTip = ui->completeLine->toolTip();
     fillEncodings(encoding);
@@ -122,11 +131,108 @@ void MesWidget::fillEncodings(const QString& encoding)
         ui->encodingSelect->findText(QString::fromLatin1(codec->name()), Qt::MatchFixedString));
 }
 
+// The tools over the table, the find bar under them: built here rather than in the form, as one block
+// that sits in the splitter in the table's place.
+void MesWidget::createEntryTools()
+{
+    auto* tools = new QHBoxLayout;
+    tools->setContentsMargins(0, 0, 0, 0);
+    QAction* add = entryAction(QStringLiteral("actionAddEntry"), tr("Add…"),
+                               tr("Add an entry: the next free number is offered, any free one can be typed"),
+                               &MesWidget::addEntry);
+    add->setShortcut(QKeySequence(Qt::Key_Insert));
+    duplicateAction = entryAction(QStringLiteral("actionDuplicateEntry"), tr("Duplicate…"),
+                                  tr("Copy the selected entry, text and comment, under a new number"),
+                                  &MesWidget::duplicateEntry);
+    duplicateAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+D")));
+    deleteAction = entryAction(QStringLiteral("actionDeleteEntries"), tr("Delete"),
+                               tr("Delete the selected entries (one undo step)"), &MesWidget::deleteSelectedEntries);
+    deleteAction->setShortcut(QKeySequence::Delete);
+    renumberAction = entryAction(QStringLiteral("actionRenumberEntry"), tr("Renumber…"),
+                                 tr("Give the selected entry another number; a number in use is refused (or "
+                                    "double-click the number)"),
+                                 &MesWidget::renumberEntry);
+    // These keys act on the table only: in the text boxes Insert, Delete and Ctrl+D keep their own meaning.
+    for (QAction* action : {add, duplicateAction, deleteAction, renumberAction}) {
+        action->setShortcutContext(Qt::WidgetShortcut);
+        ui->table->addAction(action);
+    }
+    QAction* goTo = entryAction(QStringLiteral("actionGoToEntry"), tr("Go to…"), tr("Select the entry with a number"),
+                                &MesWidget::goToNumber);
+    goTo->setShortcut(QKeySequence(QStringLiteral("Ctrl+G")));
+    entryAction(QStringLiteral("actionSortEntries"), tr("Sort by number"),
+                                tr("Put the entries in number order, each with its comment lines (one undo step)"),
+                                &MesWidget::sortByNumber);
+    QAction* find = new QAction(tr("Find…"), this);
+    find->setObjectName(QStringLiteral("actionFindInFile"));
+    find->setToolTip(tr("Find in the texts and comments of this file (%1 in the table)")
+                         .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+    connect(find, &QAction::triggered, this, [this] { showFind(false); });
+    entryActions.append(find);
+    QAction* replace = new QAction(tr("Replace…"), this);
+    replace->setObjectName(QStringLiteral("actionReplaceInFile"));
+    replace->setShortcut(QKeySequence(QStringLiteral("Ctrl+H")));
+    replace->setToolTip(tr("Find and replace in the texts and comments of this file (%1)")
+                            .arg(replace->shortcut().toString(QKeySequence::NativeText)));
+    connect(replace, &QAction::triggered, this, [this] { showFind(true); });
+    entryActions.append(replace);
+    for (QAction* action : {goTo, replace}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        addAction(action);
+    }
+    for (QAction* action : entryActions) {
+        auto* button = new QToolButton(this);
+        button->setObjectName(action->objectName().replace(QStringLiteral("action"), QStringLiteral("button")));
+        button->setDefaultAction(action);
+        tools->addWidget(button);
+    }
+    entryStatus = new QLabel(this);
+    entryStatus->setObjectName(QStringLiteral("entryStatus"));
+    entryStatus->setToolTip(tr("What the last entry tool did"));
+    entryStatus->setMinimumWidth(0);
+    entryStatus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    tools->addWidget(entryStatus, 1);
+
+    findBar = new FindBar(this);
+    connect(findBar, &FindBar::findRequested, this, &MesWidget::findNext);
+    connect(findBar, &FindBar::replaceRequested, this, &MesWidget::replaceOne);
+    connect(findBar, &FindBar::replaceAllRequested, this, &MesWidget::replaceAll);
+    connect(findBar, &FindBar::searchChanged, this, [this] { lastMatch = MesDocument::Match(); });
+
+    auto* block = new QWidget(this);
+    block->setObjectName(QStringLiteral("entryBlock"));
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    column->addLayout(tools);
+    column->addWidget(findBar);
+    ui->splitter->insertWidget(1, block);
+    column->addWidget(ui->table, 1);
+    ui->table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+}
+
+QAction* MesWidget::entryAction(const QString& name, const QString& text, const QString& tip,
+                                void (MesWidget::*run)())
+{
+    auto* action = new QAction(text, this);
+    action->setObjectName(name);
+    action->setToolTip(tip);
+    connect(action, &QAction::triggered, this, run);
+    entryActions.append(action);
+    return action;
+}
+
 void MesWidget::connectSignals()
 {
     connect(ui->table->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
         showCurrentCell();
         showSourceLine();
+        updateControls();
+    });
+    connect(ui->table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MesWidget::updateControls);
+    connect(ui->table, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& cell) {
+        if (cell.column() == 0)
+            renumberEntry();
     });
     connect(ui->itemView, &QPlainTextEdit::textChanged, this, &MesWidget::itemViewEdited);
     connect(ui->editCommentary, &QPlainTextEdit::textChanged, this, &MesWidget::headerEdited);
@@ -144,21 +250,11 @@ void MesWidget::showDocument()
     }
     ui->itemView->clear();
     ui->completeLine->clear();
+    lastMatch = MesDocument::Match();
+    entryStatus->clear();
+    findBar->setStatus(QString());
     if (shown != nullptr) {
-        connect(shown, &MesDocument::cellChanged, this, [this](int entry, int column) {
-            const QModelIndex current = ui->table->currentIndex();
-            if (current.row() == entry && current.column() == column)
-                showCurrentCell();
-            if (current.row() == entry)
-                showSourceLine();
-        });
-        connect(shown, &MesDocument::headerChanged, this, [this] {
-            if (ui->editCommentary->toPlainText() == mesDocument()->model().getHeader())
-                return;
-            const QSignalBlocker blocker(ui->editCommentary);
-            ui->editCommentary->setPlainText(mesDocument()->model().getHeader());
-        });
-        connect(shown, &Document::modifiedChanged, this, &MesWidget::updateControls);
+        connectDocument(shown);
         const QSignalBlocker blocker(ui->encodingSelect);
         ui->encodingSelect->setCurrentIndex(
             ui->encodingSelect->findText(QString::fromLatin1(shown->codec()->name()), Qt::MatchFixedString));
@@ -167,16 +263,43 @@ void MesWidget::showDocument()
     updateControls();
 }
 
+void MesWidget::connectDocument(MesDocument* shown)
+{
+    // Rows come and go with the entries (the table model follows them); the boxes under the table
+    // show whatever is current afterwards.
+    connect(shown, &Document::changed, this, [this] {
+        showCurrentCell();
+        showSourceLine();
+        updateControls();
+    });
+    connect(shown, &MesDocument::headerChanged, this, [this] {
+        if (ui->editCommentary->toPlainText() == mesDocument()->model().getHeader())
+            return;
+        const QSignalBlocker blocker(ui->editCommentary);
+        ui->editCommentary->setPlainText(mesDocument()->model().getHeader());
+    });
+    connect(shown, &Document::modifiedChanged, this, &MesWidget::updateControls);
+}
+
 void MesWidget::updateControls()
 {
-    const bool loaded = document() != nullptr;
-    const bool modified = loaded && document()->isModified();
+    const MesDocument* shown = mesDocument();
+    const bool loaded = shown != nullptr;
+    const bool modified = loaded && shown->isModified();
     for (QWidget* widget : {static_cast<QWidget*>(ui->editCommentary), static_cast<QWidget*>(ui->table),
                             static_cast<QWidget*>(ui->itemView), static_cast<QWidget*>(ui->completeLine)})
         widget->setEnabled(loaded);
     ui->reloadButton->setEnabled(modified);
     ui->saveButton->setEnabled(modified);
     ui->saveAsButton->setEnabled(loaded);
+    for (QAction* action : entryActions)
+        action->setEnabled(loaded);
+    const bool readable = loaded && shown->isReadable(ui->table->currentIndex().row());
+    duplicateAction->setEnabled(readable);
+    renumberAction->setEnabled(readable);
+    deleteAction->setEnabled(loaded && (ui->table->selectionModel()->hasSelection() || ui->table->currentIndex().isValid()));
+    if (!loaded)
+        findBar->hide();
 }
 
 void MesWidget::fitColumns()
@@ -238,7 +361,7 @@ void MesWidget::itemViewEdited()
     const QModelIndex current = ui->table->currentIndex();
     if (mesDocument() == nullptr || !current.isValid() || ui->itemView->isReadOnly())
         return;
-    MesTableModel::editCell(mesDocument(), current.row(), current.column(), ui->itemView->toPlainText());
+    mesDocument()->editCell(current.row(), current.column(), ui->itemView->toPlainText());
 }
 
 void MesWidget::headerEdited()
@@ -264,6 +387,213 @@ void MesWidget::encodingChosen(const QString& name)
         ui->encodingSelect->setCurrentIndex(
             ui->encodingSelect->findText(QString::fromLatin1(codec->name()), Qt::MatchFixedString));
     }
+}
+
+void MesWidget::showFind(bool replace)
+{
+    if (mesDocument() == nullptr)
+        return;
+    findBar->open(replace);
+}
+
+// ---- entry tools ----
+
+bool MesWidget::askNumber(const QString& title, const QString& label, int proposed, int& number)
+{
+    QInputDialog dialog(this);
+    dialog.setObjectName(QStringLiteral("numberDialog"));
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(label);
+    dialog.setInputMode(QInputDialog::TextInput);
+    dialog.setTextValue(proposed >= 0 ? QString::number(proposed) : QString());
+    if (Prompt::run(dialog) != QDialog::Accepted)
+        return false;
+    QString error;
+    if (!MesDocument::parseNumber(dialog.textValue(), number, error)) {
+        refuse(title, error);
+        return false;
+    }
+    return true;
+}
+
+void MesWidget::refuse(const QString& title, const QString& reason)
+{
+    Prompt::message(this, QMessageBox::Warning, title, reason);
+}
+
+void MesWidget::selectCell(int row, int column)
+{
+    const QModelIndex cell = table->index(row, column);
+    ui->table->setCurrentIndex(cell);
+    ui->table->scrollTo(cell);
+}
+
+QList<int> MesWidget::selectedRows() const
+{
+    std::set<int> rows;
+    for (const QModelIndex& cell : ui->table->selectionModel()->selectedIndexes())
+        rows.insert(cell.row());
+    const QModelIndex current = ui->table->currentIndex();
+    if (rows.empty() && current.isValid())
+        rows.insert(current.row());
+    return QList<int>(rows.begin(), rows.end());
+}
+
+void MesWidget::addEntry()
+{
+    MesDocument* shown = mesDocument();
+    if (shown == nullptr)
+        return;
+    int number = 0;
+    if (!askNumber(tr("Add entry"), tr("Number of the new entry:"), shown->proposedNumber(ui->table->currentIndex().row()),
+                   number))
+        return;
+    int position = 0;
+    QString error;
+    if (!shown->addEntry(number, position, error))
+        return refuse(tr("Add entry"), error);
+    selectCell(position, 1);
+    entryStatus->setText(tr("Entry %1 added").arg(number));
+}
+
+void MesWidget::duplicateEntry()
+{
+    MesDocument* shown = mesDocument();
+    const int source = ui->table->currentIndex().row();
+    if (shown == nullptr || !shown->isReadable(source))
+        return;
+    const QString original = shown->cell(source, 0);
+    int number = 0;
+    if (!askNumber(tr("Duplicate entry"), tr("Number of the copy of %1:").arg(original),
+                   shown->proposedNumber(source), number))
+        return;
+    int position = 0;
+    QString error;
+    if (!shown->duplicateEntry(source, number, position, error))
+        return refuse(tr("Duplicate entry"), error);
+    selectCell(position, 1);
+    entryStatus->setText(tr("Entry %1 copied as %2").arg(original).arg(number));
+}
+
+void MesWidget::deleteSelectedEntries()
+{
+    MesDocument* shown = mesDocument();
+    const QList<int> rows = selectedRows();
+    if (shown == nullptr || rows.isEmpty())
+        return;
+    const int column = std::max(ui->table->currentIndex().column(), 0);
+    const int first = rows.first();
+    // The view lets go of the selection first: it would otherwise follow every row as it goes.
+    ui->table->clearSelection();
+    if (!shown->removeEntries(rows))
+        return;
+    if (table->rowCount() > 0)
+        selectCell(std::min(first, table->rowCount() - 1), column);
+    entryStatus->setText(rows.size() == 1 ? tr("1 entry deleted") : tr("%1 entries deleted").arg(rows.size()));
+}
+
+void MesWidget::renumberEntry()
+{
+    MesDocument* shown = mesDocument();
+    const QModelIndex current = ui->table->currentIndex();
+    if (shown == nullptr || !shown->isReadable(current.row()))
+        return;
+    const QString old = shown->cell(current.row(), 0);
+    int number = 0;
+    if (!askNumber(tr("Renumber entry"), tr("New number of entry %1:").arg(old), old.toInt(), number))
+        return;
+    QString error;
+    if (!shown->renumberEntry(current.row(), number, error))
+        return refuse(tr("Renumber entry"), error);
+    entryStatus->setText(tr("Entry %1 is now %2").arg(old).arg(number));
+}
+
+void MesWidget::goToNumber()
+{
+    const MesDocument* shown = mesDocument();
+    if (shown == nullptr)
+        return;
+    int number = 0;
+    if (!askNumber(tr("Go to entry"), tr("Number of the entry:"), -1, number))
+        return;
+    if (!goToEntry(number))
+        refuse(tr("Go to entry"), tr("%1 has no entry %2.").arg(shown->displayName()).arg(number));
+}
+
+void MesWidget::sortByNumber()
+{
+    MesDocument* shown = mesDocument();
+    if (shown == nullptr)
+        return;
+    entryStatus->setText(shown->sortByNumber() ? tr("Entries sorted by number")
+                                               : tr("The entries are already in number order"));
+    ui->table->scrollTo(ui->table->currentIndex());
+}
+
+// ---- find and replace ----
+
+void MesWidget::findNext(bool backwards)
+{
+    const MesDocument* shown = mesDocument();
+    const TextSearch search = findBar->search();
+    if (shown == nullptr || search.isEmpty())
+        return;
+    MesDocument::Match from = lastMatch;
+    const QModelIndex current = ui->table->currentIndex();
+    // A search goes on from the match shown, or starts in the cell the user is in.
+    if (from.entry != current.row() || from.column != current.column()) {
+        from = MesDocument::Match{current.row(), current.column(), 0, 0};
+        if (backwards)
+            from.start = shown->cell(current.row(), current.column()).size();
+    }
+    showMatch(shown->find(search, from, backwards));
+}
+
+void MesWidget::showMatch(const MesDocument::Match& match)
+{
+    const TextSearch search = findBar->search();
+    lastMatch = match;
+    if (match.entry < 0) {
+        findBar->setStatus(tr("No match for “%1”").arg(search.pattern()));
+        return;
+    }
+    selectCell(match.entry, match.column);
+    QTextCursor cursor = ui->itemView->textCursor();
+    cursor.setPosition(int(match.start));
+    cursor.setPosition(int(match.start + match.length), QTextCursor::KeepAnchor);
+    ui->itemView->setTextCursor(cursor);
+    const int total = mesDocument()->countMatches(search);
+    findBar->setStatus(tr("Entry %1 — matches in the file: %2").arg(mesDocument()->cell(match.entry, 0)).arg(total));
+}
+
+void MesWidget::replaceOne()
+{
+    MesDocument* shown = mesDocument();
+    const TextSearch search = findBar->search();
+    if (shown == nullptr || search.isEmpty())
+        return;
+    const QModelIndex current = ui->table->currentIndex();
+    MesDocument::Match match = lastMatch;
+    if (match.entry == current.row() && match.column == current.column()
+        && shown->replaceMatch(match, search, findBar->replacement())) {
+        // The search goes on after the text just written, so a replacement holding the pattern is not found again.
+        match.length = findBar->replacement().size();
+        lastMatch = match;
+    }
+    findNext(false);
+}
+
+void MesWidget::replaceAll()
+{
+    MesDocument* shown = mesDocument();
+    const TextSearch search = findBar->search();
+    if (shown == nullptr || search.isEmpty())
+        return;
+    int cells = 0;
+    const int replaced = shown->replaceAll(search, findBar->replacement(), cells);
+    lastMatch = MesDocument::Match();
+    findBar->setStatus(replaced == 0 ? tr("No match for “%1”: nothing replaced").arg(search.pattern())
+                                     : tr("Matches replaced: %1; cells changed: %2").arg(replaced).arg(cells));
 }
 
 void MesWidget::on_reloadButton_clicked()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MesDocument.h"
 #include "Page.h"
 
 #include <QString>
@@ -7,8 +8,10 @@
 
 #include <memory>
 
-class MesDocument;
+class FindBar;
 class MesTableModel;
+class QAction;
+class QLabel;
 class QTextCodec;
 class Ui_MesWidget;
 
@@ -24,6 +27,18 @@ public:
 
     // Every codec name the platform offers, in its own order.
     static const QStringList& encodingList();
+
+    // Opens the find bar (with its replace row for replace) over the table.
+    void showFind(bool replace);
+
+    // The entry tools, as the buttons over the table run them: each asks what it needs (a number through
+    // Prompt), refuses bad input with a message and pushes one undo step.
+    void addEntry();
+    void duplicateEntry();
+    void deleteSelectedEntries();
+    void renumberEntry();
+    void goToNumber();
+    void sortByNumber();
 
     QStringList suffixes() const override;
     QString fileFilter() const override;
@@ -44,7 +59,19 @@ private slots:
     void on_saveAsButton_clicked();
 
 private:
+    void createEntryTools();
+    QAction* entryAction(const QString& name, const QString& text, const QString& tip, void (MesWidget::*run)());
     void connectSignals();
+    void connectDocument(MesDocument* shown);
+    // Asks for a number, offering proposed; false when cancelled or refused (after saying why).
+    bool askNumber(const QString& title, const QString& label, int proposed, int& number);
+    void refuse(const QString& title, const QString& reason);
+    void selectCell(int row, int column);
+    QList<int> selectedRows() const;
+    void findNext(bool backwards);
+    void replaceOne();
+    void replaceAll();
+    void showMatch(const MesDocument::Match& match);
     void fillEncodings(const QString& encoding);
     void fitColumns();
     void updateControls();
@@ -57,6 +84,14 @@ private:
 
     std::unique_ptr<Ui_MesWidget> ui;
     MesTableModel* table = nullptr;
+    FindBar* findBar = nullptr;
+    QLabel* entryStatus = nullptr;
+    QList<QAction*> entryActions;
+    QAction* duplicateAction = nullptr;
+    QAction* deleteAction = nullptr;
+    QAction* renumberAction = nullptr;
+    // The match the find bar showed last; Replace replaces it when its cell still holds it.
+    MesDocument::Match lastMatch;
     QTextCodec* codec = nullptr;
     QString lineToolTip;
     // Set while the page fills its text boxes from the document, so that is not an edit.

@@ -1,6 +1,9 @@
 #include "ScriptDocument.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
 
 using arcanum::Script;
 
@@ -18,6 +21,71 @@ ScriptDocument::ScriptDocument(const QString& path, qint64 fileSize)
     : Document(path)
     , sizeOnDisk(fileSize)
 {
+    // The number lives in the file name: saved under another name, this is that script now.
+    connect(this, &Document::pathChanged, this, [this](const QString& newPath) {
+        if (numberOf(QFileInfo(newPath).fileName()) < 0)
+            return;
+        model.loadBytes(newPath, model.toBytes());
+        emit changed();
+    });
+}
+
+namespace {
+constexpr int NUMBER_DIGITS = 5;
+constexpr int LAST_NUMBER = 99999;
+const QString SCRIPT_SUFFIX = QStringLiteral(".scr");
+} // namespace
+
+int ScriptDocument::numberOf(const QString& fileName)
+{
+    static const QRegularExpression numbered(QStringLiteral("^(\\d{5}).*\\.scr$"), QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = numbered.match(fileName);
+    return match.hasMatch() ? match.captured(1).toInt() : -1;
+}
+
+QString ScriptDocument::nameOf(const QString& fileName)
+{
+    if (numberOf(fileName) < 0)
+        return QString();
+    return fileName.mid(NUMBER_DIGITS).chopped(SCRIPT_SUFFIX.size());
+}
+
+QSet<int> ScriptDocument::numbersIn(const QString& folder)
+{
+    QSet<int> numbers;
+    for (const QString& file : QDir(folder).entryList({QStringLiteral("*.scr"), QStringLiteral("*.SCR")}, QDir::Files))
+        if (const int number = numberOf(file); number >= 0)
+            numbers.insert(number);
+    return numbers;
+}
+
+QString ScriptDocument::fileNameFor(const QString& numberText, const QString& name, const QSet<int>& used,
+                                    QString& error)
+{
+    const QString typed = numberText.trimmed();
+    bool ok = false;
+    const qlonglong number = typed.toLongLong(&ok, 10);
+    if (!ok) {
+        error = tr("“%1” is not a number.").arg(typed);
+        return QString();
+    }
+    if (number < 1 || number > LAST_NUMBER) {
+        error = tr("%1 is outside 1 … %2: a script number has five digits.").arg(typed).arg(LAST_NUMBER);
+        return QString();
+    }
+    if (used.contains(int(number))) {
+        error = tr("Script number %1 is already in use.").arg(number);
+        return QString();
+    }
+    QString rest = name.trimmed();
+    if (rest.endsWith(SCRIPT_SUFFIX, Qt::CaseInsensitive))
+        rest.chop(SCRIPT_SUFFIX.size());
+    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|]"));
+    if (rest.isEmpty() || rest.contains(forbidden)) {
+        error = tr("“%1” cannot be a script's name: it must not be empty or hold any of \\ / : * ? \" < > |.").arg(rest);
+        return QString();
+    }
+    return QStringLiteral("%1%2%3").arg(number, NUMBER_DIGITS, 10, QLatin1Char('0')).arg(rest, SCRIPT_SUFFIX);
 }
 
 bool ScriptDocument::serialize(QByteArray& bytes, QString& /*error*/) const

@@ -3,12 +3,16 @@
 #include "FormatRegistry.h"
 
 #include "DialogNewStatement.h"
+#include "DialogSaveScript.h"
 #include "Prompt.h"
+#include "SaveGuard.h"
 #include "ScriptDocument.h"
 #include "TokensWidget.h"
 #include "WheelGuard.h"
 #include "ui_ScriptWidget.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -20,6 +24,7 @@ namespace {
 constexpr int FillerHeight = 1200;
 const int DESCRIPTION_MERGE_ID = 2001;
 const int OPERAND_MERGE_ID = 2002;
+constexpr int LAST_SCRIPT = 99999;
 } // namespace
 
 ScriptWidget::ScriptWidget(QWidget* parent)
@@ -284,6 +289,37 @@ void ScriptWidget::onTokenChanged(TokensWidget* row)
     Script::unloadTokens(row->getTokens(), *statement);
     recordEdit(tr("Edit operand of line %1").arg(row->getLine() + 1), OPERAND_MERGE_ID,
                row->getLine() * 4 + int(row->getlineType()));
+}
+
+bool ScriptWidget::saveAs()
+{
+    ScriptDocument* shown = scriptDocument();
+    if (shown == nullptr)
+        return false;
+    commitPending();
+    const QString folder = QFileInfo(shown->path()).absolutePath();
+    QSet<int> used = ScriptDocument::numbersIn(folder);
+    if (listedScripts)
+        for (const QString& name : listedScripts())
+            if (const int number = ScriptDocument::numberOf(name); number >= 0)
+                used.insert(number);
+    // The first free number after this script's, going round past 99999.
+    int offered = shown->script().getId();
+    for (int tries = 0; tries < LAST_SCRIPT; ++tries) {
+        offered = offered >= LAST_SCRIPT ? 1 : offered + 1;
+        if (!used.contains(offered))
+            break;
+    }
+    DialogSaveScript dialog(offered, ScriptDocument::nameOf(QFileInfo(shown->path()).fileName()), this);
+    if (Prompt::run(dialog) != QDialog::Accepted)
+        return false;
+    QString error;
+    const QString file = ScriptDocument::fileNameFor(dialog.numberText(), dialog.name(), used, error);
+    if (file.isEmpty()) {
+        Prompt::message(this, QMessageBox::Warning, tr("Save script as"), error);
+        return false;
+    }
+    return SaveGuard::save(this, shown, QDir(folder).filePath(file));
 }
 
 QList<QWidget*> ScriptWidget::fileControls() const

@@ -5,7 +5,9 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QGridLayout;
@@ -33,6 +35,13 @@ public:
     ScriptDocument* scriptDocument() const;
     // The rows currently shown, top to bottom.
     const QList<TokensWidget*>& rows() const { return rowWidgets; }
+
+    // Writes the script under a new number and name (00042guard.scr) in its folder, asked for in a
+    // dialog; a number outside 1 … 99999 or in use is refused with a message. The page then shows the
+    // new file. This is how a new script starts.
+    bool saveAs() override;
+    // The script files the game has besides those in the folder (inside archives): their numbers are in use too.
+    void setListedScripts(std::function<QStringList()> names) { listedScripts = std::move(names); }
 
 protected:
     void showDocument() override;
@@ -72,4 +81,5 @@ private:
     QList<TokensWidget*> rowWidgets;
     QGridLayout* grid = nullptr;
     QWidget* filler = nullptr;
+    std::function<QStringList()> listedScripts;
 };
