@@ -3108,7 +3108,7 @@ Restore them (they open modified, not saved) or discard them?</source>
     </message>
     <message>
         <source>“%1” cannot be a script&apos;s name: it must not be empty or hold any of \ / : * ? &quot; &lt; &gt; |.</source>
-        <translation>«%1» не может быть именем скрипта: оно не должно быть пустым или содержать \ / : * ? " &lt; &gt; |.</translation>
+        <translation>«%1» не может быть именем скрипта: оно не должно быть пустым или содержать \ / : * ? &quot; &lt; &gt; |.</translation>
     </message>
 </context>
 <context>
