@@ -6,6 +6,7 @@
 #include "ExportCommand.h"
 #include "ModelChatter.h"
 #include "RoundtripCommand.h"
+#include "ScriptCommand.h"
 
 #include <QTextCodec>
 
@@ -19,6 +20,8 @@ CommandLine::CommandLine()
                    QStringLiteral("FORMAT"), QStringLiteral("png"))
     , sheetOption(QStringLiteral("sheet"),
                   QStringLiteral("export: one sprite sheet per palette, images as rows, frames as columns."))
+    , outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
+                   QStringLiteral("script decompile, compile: the file to write."), QStringLiteral("FILE"))
     , encodingOption(QStringLiteral("encoding"),
                      QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
                      QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
@@ -33,12 +36,16 @@ CommandLine::CommandLine()
         "  dat list ARCHIVE              list the files of a game archive (.dat)\n"
         "  dat extract ARCHIVE OUTDIR [PATTERN...]  extract files (wildcards over their paths)\n"
         "  dat pack DIR ARCHIVE          pack every file below DIR into an archive\n"
-        "  dat verify ARCHIVE            check an archive as the engine reads it\n\n"
+        "  dat verify ARCHIVE            check an archive as the engine reads it\n"
+        "  script decompile SCR [-o FILE]  write a script as source text (standard output without -o)\n"
+        "  script compile SRC [-o SCR]   compile source text; NAME.scr.txt becomes NAME.scr without -o\n"
+        "  script decompile-all DIR OUTDIR  every .scr of DIR as OUTDIR/NAME.scr.txt\n"
+        "  script compile-all DIR OUTDIR  every .scr.txt of DIR as OUTDIR/NAME.scr\n\n"
         "Exit status: 0 clean, 1 problems or differences, 2 usage or input/output error."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, encodingOption});
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export or dat"));
+    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, outputOption, encodingOption});
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, dat or script"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
 }
@@ -82,6 +89,8 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
     }
     if (command == QLatin1String("dat"))
         return DatCommand(parser.isSet(jsonOption)).run(operands);
+    if (command == QLatin1String("script"))
+        return ScriptCommand(parser.value(outputOption)).run(operands);
     const QStringList known = {"check", "dump", "roundtrip", "export"};
     return usageError(known.contains(command) ? QStringLiteral("wrong number of arguments for %1").arg(command)
                                               : QStringLiteral("unknown command \"%1\"").arg(command));
