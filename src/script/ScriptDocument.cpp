@@ -20,6 +20,14 @@ ScriptDocument::ScriptDocument(const QString& path, qint64 fileSize)
 {
 }
 
+void ScriptDocument::replaceContent(const Script::Header& header, std::vector<Script::Line> lines, const QString& text)
+{
+    beginEdit();
+    model.setContent(header, std::move(lines));
+    recordEdit(text);
+    emit changed();
+}
+
 bool ScriptDocument::serialize(QByteArray& bytes, QString& /*error*/) const
 {
     bytes = model.toBytes();

@@ -9,7 +9,9 @@
 #include <memory>
 
 class QGridLayout;
+class QTabWidget;
 class ScriptDocument;
+class ScriptSourceView;
 class TokensWidget;
 
 namespace Ui {
@@ -33,10 +35,13 @@ public:
     ScriptDocument* scriptDocument() const;
     // The rows currently shown, top to bottom.
     const QList<TokensWidget*>& rows() const { return rowWidgets; }
+    ScriptSourceView* sourceView() const { return source; }
 
 protected:
     void showDocument() override;
     QList<QWidget*> fileControls() const override;
+    // Unapplied source edits are applied or dropped (as the user says) before a save or a replacement.
+    void commitPending() override;
 
 private slots:
     void on_buttonNewIF_pressed();
@@ -65,6 +70,9 @@ private:
     void updateControls();
     void clearWidgets();
     bool readOnly() const;
+    // The rows and the Source view as two tabs; leaving the source asks about its unapplied edits.
+    void buildViews();
+    void viewChanged(int index);
 
     std::unique_ptr<Ui::ScriptWidget> ui;
     // Set while rows and header are filled from the script, so nothing they emit counts as an edit.
@@ -72,4 +80,7 @@ private:
     QList<TokensWidget*> rowWidgets;
     QGridLayout* grid = nullptr;
     QWidget* filler = nullptr;
+    QTabWidget* views = nullptr;
+    ScriptSourceView* source = nullptr;
+    int shownView = 0;
 };
