@@ -130,7 +130,7 @@ private slots:
         const QTextCursor cursor = view().editor()->textCursor();
         QCOMPARE(cursor.blockNumber(), 3);
         QCOMPARE(cursor.positionInBlock(), 18);
-        QVERIFY(view().findChild<QLabel*>(QStringLiteral("labelSourceState"))->text().contains(QStringLiteral("does not compile")));
+        QVERIFY(view().findChild<QLabel*>(QStringLiteral("labelSourceState"))->text().contains(QStringLiteral("does not compile; mistakes: 2")));
     }
 
     void aSourceOfAnotherScriptIsRefused()

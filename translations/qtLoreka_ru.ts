@@ -2224,14 +2224,6 @@ Restore them (they open modified, not saved) or discard them?</source>
         <source>No script</source>
         <translation>Нет скрипта</translation>
     </message>
-    <message numerus="yes">
-        <source>%n mistake(s): the source does not compile</source>
-        <translation>
-            <numerusform>%n ошибка: текст не компилируется</numerusform>
-            <numerusform>%n ошибки: текст не компилируется</numerusform>
-            <numerusform>%n ошибок: текст не компилируется</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The script changed since this source was written: Apply replaces those changes, Revert takes them</source>
         <translation>Скрипт изменился после того, как был записан этот текст: «Применить» заменит те изменения, «Вернуть» примет их</translation>
@@ -2243,6 +2235,10 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>The source of the script as it stands</source>
         <translation>Исходный текст скрипта в его нынешнем виде</translation>
+    </message>
+    <message>
+        <source>The source does not compile; mistakes: %1</source>
+        <translation>Текст не компилируется; ошибок: %1</translation>
     </message>
 </context>
 <context>

@@ -44,6 +44,8 @@ ScriptSourceView::ScriptSourceView(QWidget* parent)
     applyButton->setToolTip(tr("Compile the source into the script, as one step that Undo takes back"));
     revertButton->setToolTip(tr("Write the source again from the script, dropping the edits"));
     state->setWordWrap(true);
+    list->setWordWrap(true);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     new ScriptSourceHighlighter(edit->document());
 
     auto* tools = new QHBoxLayout;
@@ -258,7 +260,7 @@ void ScriptSourceView::updateState()
     if (!document)
         state->setText(tr("No script"));
     else if (list->count() > 0)
-        state->setText(tr("%n mistake(s): the source does not compile", nullptr, list->count()));
+        state->setText(tr("The source does not compile; mistakes: %1").arg(list->count()));
     else if (stale)
         state->setText(tr("The script changed since this source was written: Apply replaces those changes, Revert takes them"));
     else if (edited)
