@@ -306,6 +306,14 @@ private slots:
         QCOMPARE(second.script().toBytes(), first.script().toBytes());
     }
 
+    void byteOrderMarkAndWindowsLineEnds()
+    {
+        const ScriptCompiler::Result result = compiled("\xef\xbb\xbfscript 3 \"x\"\r\nDO dialog (Number 4) // talk\r\n");
+        QVERIFY2(result.ok(), qPrintable(diagnosticsText(result)));
+        QCOMPARE(result.number, 3);
+        QCOMPARE(result.lines.at(0).thenAction.values[0], 4);
+    }
+
     void emptySourceIsAnEmptyScript()
     {
         const ScriptCompiler::Result result = compiled("");

@@ -957,6 +957,10 @@ Script ScriptCompiler::Result::script() const
 
 ScriptCompiler::Result ScriptCompiler::compile(std::string_view source, qint64 lineLimit)
 {
+    // A byte order mark some editors put before UTF-8 text is no part of the first line.
+    constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
+    if (source.substr(0, byteOrderMark.size()) == byteOrderMark)
+        source.remove_prefix(byteOrderMark.size());
     return Compilation(source, lineLimit).run();
 }
 
