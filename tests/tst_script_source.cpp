@@ -394,6 +394,15 @@ private slots:
         QCOMPARE(result.diagnostics.back().line, badLine + 1);
     }
 
+    void statementMistakesCoverTheStatement()
+    {
+        const ScriptCompiler::Result result = compiled("IF it is daytim  THEN kill (Player) (Player) [type3=1]\n");
+        QCOMPARE(result.diagnostics.size(), size_t(2));
+        QCOMPARE(result.diagnostics[0].length, 12);
+        QCOMPARE(result.diagnostics[1].column, 23);
+        QCOMPARE(result.diagnostics[1].length, 22);
+    }
+
     void columnsCountCharacters()
     {
         const ScriptCompiler::Result result = compiled("DO do nothing // é\nscript \"café\" x\n");

@@ -125,7 +125,8 @@ private slots:
         QVERIFY2(list->item(0)->text().startsWith(QStringLiteral("Line 3, column 4: unknown action 'kil (Attachee)'; did you mean 'kill (Object)'")),
                  qPrintable(list->item(0)->text()));
         QCOMPARE(view().editor()->extraSelections().size(), 2);
-        QCOMPARE(view().editor()->extraSelections().first().cursor.selectedText(), QStringLiteral("kil"));
+        QCOMPARE(view().editor()->extraSelections().first().cursor.selectedText(), QStringLiteral("kil (Attachee)"));
+        QCOMPARE(view().editor()->extraSelections().last().cursor.selectedText(), QStringLiteral("x)"));
         emit list->itemClicked(list->item(1));
         const QTextCursor cursor = view().editor()->textCursor();
         QCOMPARE(cursor.blockNumber(), 3);

@@ -147,7 +147,8 @@ private:
     // Reading physical lines into logical ones.
     void logicalLine(size_t& pos, int& physicalLine);
     size_t codeEnd(std::string_view physical) const;
-    void error(size_t at, std::string message);
+    // end, when given, is where the text the mistake is about ends (a whole statement).
+    void error(size_t at, std::string message, size_t end = std::string::npos);
     std::pair<int, int> place(size_t at) const;
 
     // One logical line.
@@ -285,10 +286,17 @@ std::pair<int, int> Compilation::place(size_t at) const
     return {piece->line, column};
 }
 
-void Compilation::error(size_t at, std::string message)
+void Compilation::error(size_t at, std::string message, size_t end)
 {
     const auto [line, column] = place(at);
-    result.diagnostics.push_back({line, column, std::move(message)});
+    int length = 0;
+    if (end != std::string::npos) {
+        while (end > at && isSpace(text[end - 1]))
+            --end;
+        const auto [endLine, endColumn] = place(end);
+        length = endLine == line ? endColumn - column : 0;
+    }
+    result.diagnostics.push_back({line, column, std::move(message), length});
 }
 
 void Compilation::skipSpaces()
@@ -566,12 +574,13 @@ bool Compilation::unknownCode(const std::string& key, bool condition, Script::St
     if (!fitsInt32(*code))
         error(at, std::string(digits) + " is outside the 32-bit range -2147483648 to 2147483647");
     else if (condition && *code == 0)
-        error(at, "condition 0 marks a line without condition: write DO and the action");
+        error(at, "condition 0 marks a line without condition: write DO and the action", pos);
     else if (condition ? Script::isConditionCode(qint32(*code)) : Script::isActionCode(qint32(*code)))
         error(at, std::string(condition ? "condition " : "action ") + std::string(digits)
                       + " is in the catalogue: write its template, "
                       + quote(ScriptSyntax::pattern(condition ? *syntax.condition(qint32(*code))
-                                                              : *syntax.action(qint32(*code)))));
+                                                              : *syntax.action(qint32(*code)))),
+              pos);
     else
         out.code = qint32(*code);
     return true;
@@ -616,15 +625,16 @@ void Compilation::mismatch(const std::string& key, const std::vector<Operand>& o
         if (words(entry.key) == words(key)) {
             error(at, quote(ScriptSyntax::pattern(entry)) + " takes " + std::to_string(entry.operands.size())
                           + " operand" + (entry.operands.size() == 1 ? "" : "s") + ", not "
-                          + std::to_string(operands.size()));
+                          + std::to_string(operands.size()),
+                  pos);
             return;
         }
     for (const ScriptSyntax::Template* other : syntax.withKey(!condition, key)) {
-        error(at, quote(ScriptSyntax::pattern(*other)) + (condition ? " is an action, not a condition" : " is a condition, not an action"));
+        error(at, quote(ScriptSyntax::pattern(*other)) + (condition ? " is an action, not a condition" : " is a condition, not an action"), pos);
         return;
     }
     error(at, std::string(condition ? "unknown condition " : "unknown action ")
-                  + quote(trimmed(std::string_view(text).substr(at, pos - at))) + nearest(key, condition));
+                  + quote(trimmed(std::string_view(text).substr(at, pos - at))) + nearest(key, condition), pos);
 }
 
 std::string Compilation::nearest(const std::string& key, bool condition) const

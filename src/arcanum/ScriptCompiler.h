@@ -21,6 +21,9 @@ public:
         int line = 0;
         int column = 0;
         std::string message;
+        // Characters of the line the mistake covers from the column (a whole statement); 0 when it
+        // points at one place.
+        int length = 0;
     };
 
     struct Result

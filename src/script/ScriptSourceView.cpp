@@ -222,14 +222,16 @@ void ScriptSourceView::showDiagnostics(const std::vector<ScriptCompiler::Diagnos
         const QTextBlock block = edit->document()->findBlockByNumber(d.line - 1);
         if (!block.isValid())
             continue;
-        // From the column to the end of its word, at least one character.
+        // What the mistake covers, else from the column to the end of its word; at least one character.
         const QString text = block.text();
-        int end = std::min(d.column - 1, int(text.size()));
-        while (end < text.size() && !text.at(end).isSpace())
-            ++end;
+        const int start = std::min(d.column - 1, int(text.size()));
+        int end = start + d.length;
+        if (d.length <= 0)
+            while (end < text.size() && !text.at(end).isSpace())
+                ++end;
         QTextCursor cursor(block);
-        cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, std::min(d.column - 1, int(text.size())));
-        cursor.setPosition(block.position() + std::max(end, std::min(d.column, int(text.size()))), QTextCursor::KeepAnchor);
+        cursor.setPosition(block.position() + start);
+        cursor.setPosition(block.position() + std::min(std::max(end, start + 1), int(text.size())), QTextCursor::KeepAnchor);
         marks.append({cursor, underline});
     }
     edit->setExtraSelections(marks);
