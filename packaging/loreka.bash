@@ -14,24 +14,27 @@ _loreka()
             return ;;
         --palette)
             return ;;
+        -o|--output)
+            _filedir
+            return ;;
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --encoding' -- "$cur"))
+        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --output --encoding' -- "$cur"))
         return
     fi
 
     local command="" sub="" i
     for ((i = 1; i < cword; i++)); do
         case ${words[i]} in
-            --palette|--format|--encoding) ((i++)) ;;
+            --palette|--format|--encoding|-o|--output) ((i++)) ;;
             -*) ;;
             *) if [[ -z $command ]]; then command=${words[i]}; elif [[ -z $sub ]]; then sub=${words[i]}; fi ;;
         esac
     done
 
     case $command in
-        "") COMPREPLY=($(compgen -W 'check dump roundtrip export dat' -- "$cur")) ;;
+        "") COMPREPLY=($(compgen -W 'check dump roundtrip export dat script' -- "$cur")) ;;
         check) _filedir -d ;;
         dump|roundtrip) _filedir '@(mes|dlg|scr|art|aap|pro|dat)' ;;
         export) _filedir ;;
@@ -41,6 +44,13 @@ _loreka()
             else
                 _filedir
             fi ;;
+        script)
+            case $sub in
+                "") COMPREPLY=($(compgen -W 'decompile compile decompile-all compile-all' -- "$cur")) ;;
+                decompile) _filedir scr ;;
+                compile) _filedir txt ;;
+                *) _filedir -d ;;
+            esac ;;
     esac
 } &&
     complete -F _loreka loreka
