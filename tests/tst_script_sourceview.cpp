@@ -172,6 +172,18 @@ private slots:
         QCOMPARE(text(), answer == QMessageBox::Discard ? QString::fromLatin1(guardSource) : edited);
     }
 
+    // Saving with edits not applied asks first; Apply puts them in the file written.
+    void saveAsksAboutUnappliedEdits()
+    {
+        const QString edited = QStringLiteral("script 12 \"Guard\"\nDO kill (Player)\n");
+        type(edited);
+        answers->buttons.enqueue(QMessageBox::Apply);
+        QVERIFY(page->save());
+        QCOMPARE(answers->count(QStringLiteral("question")), 1);
+        QCOMPARE(FormatChecks::readFile(path()), compiledBytes(edited.toStdString()));
+        QVERIFY(!page->scriptDocument()->isModified());
+    }
+
     void followsTheRowsUnlessEdited()
     {
         auto* description = page->findChild<QLineEdit*>(QStringLiteral("editDesc"));
