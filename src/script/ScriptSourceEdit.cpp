@@ -107,8 +107,22 @@ void ScriptSourceEdit::insertCompletion(const QString& text)
     setTextCursor(cursor);
 }
 
+bool ScriptSourceEdit::event(QEvent* event)
+{
+    // Claimed before the window's shortcuts see the key.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Find)) {
+        event->accept();
+        return true;
+    }
+    return QPlainTextEdit::event(event);
+}
+
 void ScriptSourceEdit::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Find)) {
+        emit findRequested();
+        return;
+    }
     if (completion->popup()->isVisible()) {
         switch (event->key()) {
         case Qt::Key_Enter:

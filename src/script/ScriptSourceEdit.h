@@ -21,7 +21,12 @@ public:
     // Opens the list of completions for the text before the cursor (nothing to offer: no list).
     void complete();
 
+signals:
+    // Ctrl+F in the text: it opens the view's own find bar, not what the window gives the key.
+    void findRequested();
+
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -12,7 +12,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
 #include <QTimer>
@@ -75,8 +74,7 @@ ScriptSourceView::ScriptSourceView(QWidget* parent)
     });
     connect(list, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) { goToDiagnostic(list->row(item)); });
     connect(list, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { goToDiagnostic(list->row(item)); });
-    auto* findShortcut = new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-    connect(findShortcut, &QShortcut::activated, finder, &SourceFindBar::open);
+    connect(edit, &ScriptSourceEdit::findRequested, finder, &SourceFindBar::open);
     updateState();
 }
 

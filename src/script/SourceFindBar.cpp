@@ -54,7 +54,21 @@ SourceFindBar::SourceFindBar(QPlainTextEdit* textEditor, QWidget* parent)
         hide();
         editor->setFocus();
     });
+    findText->installEventFilter(this);
+    replaceText->installEventFilter(this);
     hide();
+}
+
+bool SourceFindBar::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isFind = (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress)
+        && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Find);
+    if (!isFind)
+        return QWidget::eventFilter(watched, event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        open();
+    return true;
 }
 
 void SourceFindBar::open()

@@ -27,6 +27,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // Ctrl+F in the bar's fields selects the text to find again, whatever the window does with the key.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     bool selectionMatches() const;
