@@ -14,6 +14,8 @@
 #include "Proto.h"
 #include "SafeSave.h"
 #include "Script.h"
+#include "ScriptDocument.h"
+#include "ScriptSourceView.h"
 #include "ScriptCompiler.h"
 #include "ScriptDecompiler.h"
 
@@ -292,6 +294,25 @@ void addMesWidget(Registrar& r, const QString& game)
     });
 }
 
+// The Script tab's Source view filled with a 100 000-line script: decompiled, laid out and coloured.
+void addScriptSourceView(Registrar& r, const QString& game)
+{
+    const QString path = BenchInputs::scriptPath(game);
+    r.addPrepared("Source view shows 100 000 script lines", fileSize(path), Goal::None, 0, [path]() -> Registrar::Body {
+        QString error;
+        std::shared_ptr<ScriptDocument> document = ScriptDocument::fromBytes(path, readAll(path), error);
+        auto view = std::make_shared<ScriptSourceView>();
+        view->resize(1000, 700);
+        view->show();
+        QApplication::processEvents();
+        return [view, document] {
+            view->setDocument(document.get());
+            QApplication::processEvents();
+            view->setDocument(nullptr);
+        };
+    });
+}
+
 // Archives: many small text-like entries, as the game's archives hold.
 QVector<arcanum::DatWriter::File> archiveFiles(int count, int size, const QString& prefix)
 {
@@ -453,6 +474,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addArt(r, gameDir, outDir);
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
+    addScriptSourceView(r, gameDir);
     addArchives(r, outDir);
     addRewrites(r, gameDir);
     r.addMemcpys();
