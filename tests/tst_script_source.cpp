@@ -72,10 +72,11 @@ void checkRoundTrip(const QByteArray& bytes)
     QCOMPARE(result.number, 42);
     const QByteArray back = result.script().toBytes();
     if (back != expected)
-        QFAIL(qPrintable(QStringLiteral("bytes differ from %1 of %2\n%3")
-                             .arg(std::mismatch(back.begin(), back.end(), expected.begin(), expected.end()).first - back.begin())
-                             .arg(expected.size())
-                             .arg(QString::fromStdString(text))));
+        QFAIL(qPrintable(
+            QStringLiteral("bytes differ from %1 of %2\n%3")
+                .arg(std::mismatch(back.begin(), back.end(), expected.begin(), expected.end()).first - back.begin())
+                .arg(expected.size())
+                .arg(QString::fromStdString(text))));
 }
 
 // A statement of code whose operands take the given number type (objects a type that moves with it).
@@ -160,8 +161,9 @@ private slots:
                 QVERIFY(entry.operands.size() <= size_t(Script::Slots));
                 const QString text = QString::fromStdString(entry.text);
                 QCOMPARE(text.simplified(), text);
-                QVERIFY2(!text.contains(QRegularExpression("\\b(then|else)\\b", QRegularExpression::CaseInsensitiveOption)),
-                         qPrintable(text));
+                QVERIFY2(
+                    !text.contains(QRegularExpression("\\b(then|else)\\b", QRegularExpression::CaseInsensitiveOption)),
+                    qPrintable(text));
             }
         }
     }
@@ -202,13 +204,17 @@ private slots:
             return bytesOf(header, std::vector<Script::Line>(lines, plain));
         };
         QTest::newRow("first header word") << withHeader([](Script::Header& h) { h.headerWord = -5; }) << "word0=-5";
-        QTest::newRow("header bytes") << withHeader([](Script::Header& h) { h.headerBytes = {0xa1, 0, 0xc3, 7}; })
-                                      << "bytes4=a100c307";
-        QTest::newRow("word 48") << withHeader([](Script::Header& h) { h.headerWord48 = INT_MIN; }) << "word48=-2147483648";
+        QTest::newRow("header bytes") << withHeader([](Script::Header& h) {
+            h.headerBytes = {0xa1, 0, 0xc3, 7};
+        }) << "bytes4=a100c307";
+        QTest::newRow("word 48") << withHeader([](Script::Header& h) { h.headerWord48 = INT_MIN; })
+                                 << "word48=-2147483648";
         QTest::newRow("word 60") << withHeader([](Script::Header& h) { h.headerWord60 = 0x7f00ff01; }) << "word60=";
         QTest::newRow("line bound") << withHeader([](Script::Header& h) { h.lineBound = 99; }) << "bound=99";
-        QTest::newRow("bound of an empty script") << withHeader([](Script::Header& h) { h.lineBound = 2; }, 0) << "bound=2";
-        QTest::newRow("negative line count") << withHeader([](Script::Header& h) { h.lineCount = -3; }, 0) << "lines=-3";
+        QTest::newRow("bound of an empty script")
+            << withHeader([](Script::Header& h) { h.lineBound = 2; }, 0) << "bound=2";
+        QTest::newRow("negative line count")
+            << withHeader([](Script::Header& h) { h.lineCount = -3; }, 0) << "lines=-3";
         QTest::newRow("description tail") << withHeader([](Script::Header& h) {
             h.setDesc("Guard");
             h.description[10] = 'x';
@@ -216,17 +222,18 @@ private slots:
         }) << "desc-tail=";
         QTest::newRow("description of forty bytes")
             << withHeader([](Script::Header& h) { h.setDesc(std::string(40, 'g')); }) << QString(40, 'g');
-        QTest::newRow("description escapes") << withHeader([](Script::Header& h) {
-            h.setDesc("say \"hi\" \\ caf\xe9\x01\x7f\x85");
-        }) << "say \\\"hi\\\" \\\\ café\\x01\\x7f\\x85";
+        QTest::newRow("description escapes")
+            << withHeader([](Script::Header& h) { h.setDesc("say \"hi\" \\ caf\xe9\x01\x7f\x85"); })
+            << "say \\\"hi\\\" \\\\ café\\x01\\x7f\\x85";
         QTest::newRow("unused slots") << one(doLine(rawStatement(4, {{0, {3, 120}}, {1, {2, 0}}, {7, {0, -9}}})))
                                       << "[type2=2 value8=-9]";
-        QTest::newRow("object value word") << one(doLine(rawStatement(58, {{0, {1, 77}}}))) << "kill (Attachee) [value1=77]";
+        QTest::newRow("object value word")
+            << one(doLine(rawStatement(58, {{0, {1, 77}}}))) << "kill (Attachee) [value1=77]";
         QTest::newRow("unknown object type") << one(doLine(rawStatement(58, {{0, {200, 0}}}))) << "(object 200)";
         QTest::newRow("unknown number type") << one(doLine(rawStatement(4, {{0, {7, 5}}}))) << "dialog (type 7 5)";
-        QTest::newRow("condition slots of a DO line") << one(Script::Line{rawStatement(0, {{2, {4, 4}}}),
-                                                                          rawStatement(0, {}), {}})
-                                                      << "DO [type3=4 value3=4] do nothing";
+        QTest::newRow("condition slots of a DO line")
+            << one(Script::Line{rawStatement(0, {{2, {4, 4}}}), rawStatement(0, {}), {}})
+            << "DO [type3=4 value3=4] do nothing";
         QTest::newRow("else of a DO line") << one(Script::Line{{}, rawStatement(1, {}), rawStatement(2, {})})
                                            << "DO return and SKIP default ELSE return and RUN default";
         QTest::newRow("blank else of an IF line") << one(ifLine(rawStatement(1, {}), rawStatement(2, {})))
@@ -236,11 +243,13 @@ private slots:
             << "ELSE do nothing [value6=1]";
         QTest::newRow("unknown condition") << one(ifLine(rawStatement(99, {{0, {1, 2}}}), rawStatement(2, {})))
                                            << "IF unknown condition 99 [type1=1 value1=2] THEN";
-        QTest::newRow("negative condition") << one(ifLine(rawStatement(-4, {}), rawStatement(2, {}))) << "unknown condition -4";
+        QTest::newRow("negative condition")
+            << one(ifLine(rawStatement(-4, {}), rawStatement(2, {}))) << "unknown condition -4";
         QTest::newRow("unknown action") << one(doLine(rawStatement(INT_MAX, {}))) << "DO unknown action 2147483647";
         QTest::newRow("goto targets get labels")
-            << bytesOf(headerFor(3), {doLine(rawStatement(3, {{0, {3, 2}}})), plain,
-                                      ifLine(rawStatement(1, {}), rawStatement(3, {{0, {3, 0}}}), rawStatement(3, {{0, {3, 2}}}))})
+            << bytesOf(headerFor(3),
+                       {doLine(rawStatement(3, {{0, {3, 2}}})), plain,
+                        ifLine(rawStatement(1, {}), rawStatement(3, {{0, {3, 0}}}), rawStatement(3, {{0, {3, 2}}}))})
             << "line_0: DO goto line (Number line_2)\nDO dialog (Number 120)\nline_2: IF it is daytime THEN goto line "
                "(Number line_0) ELSE goto line (Number line_2)";
         QTest::newRow("goto outside the script or by variable")
@@ -292,15 +301,16 @@ private slots:
         Script script;
         script.loadBytes(scriptPath, first.script().toBytes());
         const std::string text = ScriptDecompiler::decompile(script);
-        QCOMPARE(QString::fromStdString(text),
-                 QStringLiteral("script 42 \"Gate guard\"\n"
-                                "line_0: IF local flag (Number 0) is set THEN return and RUN default ELSE set local flag "
-                                "(Number 0) to true\n"
-                                "DO goto line (Number line_3)\n"
-                                "IF (Triggerer) has at least (Number 50) gold THEN gold of (Triggerer): adjust by "
-                                "(Number -50) ELSE goto line (Number line_0)\n"
-                                "line_3: DO (Global Var 3) = (PC Var 4) + (Number 2)\n"
-                                "DO kill (Every follower (SP))\n"));
+        QCOMPARE(
+            QString::fromStdString(text),
+            QStringLiteral("script 42 \"Gate guard\"\n"
+                           "line_0: IF local flag (Number 0) is set THEN return and RUN default ELSE set local flag "
+                           "(Number 0) to true\n"
+                           "DO goto line (Number line_3)\n"
+                           "IF (Triggerer) has at least (Number 50) gold THEN gold of (Triggerer): adjust by "
+                           "(Number -50) ELSE goto line (Number line_0)\n"
+                           "line_3: DO (Global Var 3) = (PC Var 4) + (Number 2)\n"
+                           "DO kill (Every follower (SP))\n"));
         const ScriptCompiler::Result second = compiled(text);
         QVERIFY(second.ok());
         QCOMPARE(second.script().toBytes(), first.script().toBytes());
@@ -308,7 +318,8 @@ private slots:
 
     void byteOrderMarkAndWindowsLineEnds()
     {
-        const ScriptCompiler::Result result = compiled("\xef\xbb\xbfscript 3 \"x\"\r\nDO dialog (Number 4) // talk\r\n");
+        const ScriptCompiler::Result result
+            = compiled("\xef\xbb\xbfscript 3 \"x\"\r\nDO dialog (Number 4) // talk\r\n");
         QVERIFY2(result.ok(), qPrintable(diagnosticsText(result)));
         QCOMPARE(result.number, 3);
         QCOMPARE(result.lines.at(0).thenAction.values[0], 4);
@@ -369,7 +380,8 @@ private slots:
         row("header bytes", "header bytes4=0102", 0, 15, "four bytes");
         row("positive line count", "header lines=3", 0, 14, "outside -2147483648 to -1");
         row("lines under a negative count", "header lines=-1\nDO do nothing", 0, 8, "holds no lines");
-        row("description tail too long", "script \"" + QString(30, 'x') + "\"\nheader desc-tail=" + QString(20, '1'), 1, 8, "take 41 bytes");
+        row("description tail too long", "script \"" + QString(30, 'x') + "\"\nheader desc-tail=" + QString(20, '1'), 1,
+            8, "take 41 bytes");
         row("label on a header", "here: header word0=1", 0, 7, "a label marks a line of IF or DO");
     }
 
@@ -421,7 +433,8 @@ private slots:
 
     void moreLinesThanTheFileCounts()
     {
-        const ScriptCompiler::Result result = ScriptCompiler::compile("DO do nothing\nDO do nothing\n\nDO do nothing\n", 2);
+        const ScriptCompiler::Result result
+            = ScriptCompiler::compile("DO do nothing\nDO do nothing\n\nDO do nothing\n", 2);
         QCOMPARE(result.diagnostics.size(), size_t(1));
         QCOMPARE(result.diagnostics[0].line, 4);
         QVERIFY(QString::fromStdString(result.diagnostics[0].message).contains("more than 2 lines"));

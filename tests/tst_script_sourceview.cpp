@@ -14,12 +14,12 @@
 
 #include <QAbstractItemView>
 #include <QAction>
-#include <QSignalSpy>
 #include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBlock>
@@ -124,7 +124,8 @@ private slots:
         QCOMPARE(documentBytes(), compiledBytes(guardSource));
         QListWidget* list = view().diagnosticsList();
         QCOMPARE(list->count(), 2); // the unknown statement, the label where no line is meant
-        QVERIFY2(list->item(0)->text().startsWith(QStringLiteral("Line 3, column 4: unknown action 'kil (Attachee)'; did you mean 'kill (Object)'")),
+        QVERIFY2(list->item(0)->text().startsWith(
+                     QStringLiteral("Line 3, column 4: unknown action 'kil (Attachee)'; did you mean 'kill (Object)'")),
                  qPrintable(list->item(0)->text()));
         QCOMPARE(view().editor()->extraSelections().size(), 2);
         QCOMPARE(view().editor()->extraSelections().first().cursor.selectedText(), QStringLiteral("kil (Attachee)"));
@@ -133,7 +134,10 @@ private slots:
         const QTextCursor cursor = view().editor()->textCursor();
         QCOMPARE(cursor.blockNumber(), 3);
         QCOMPARE(cursor.positionInBlock(), 18);
-        QVERIFY(view().findChild<QLabel*>(QStringLiteral("labelSourceState"))->text().contains(QStringLiteral("does not compile; mistakes: 2")));
+        QVERIFY(view()
+                    .findChild<QLabel*>(QStringLiteral("labelSourceState"))
+                    ->text()
+                    .contains(QStringLiteral("does not compile; mistakes: 2")));
     }
 
     void aSourceOfAnotherScriptIsRefused()
@@ -195,7 +199,10 @@ private slots:
         type(QStringLiteral("script 12 \"Mine\"\n"));
         QTest::keyClicks(description, QStringLiteral("man"));
         QCOMPARE(text(), QStringLiteral("script 12 \"Mine\"\n"));
-        QVERIFY(view().findChild<QLabel*>(QStringLiteral("labelSourceState"))->text().contains(QStringLiteral("changed since")));
+        QVERIFY(view()
+                    .findChild<QLabel*>(QStringLiteral("labelSourceState"))
+                    ->text()
+                    .contains(QStringLiteral("changed since")));
     }
 
     void findAndReplace()

@@ -55,7 +55,8 @@ bool isIdentifier(std::string_view text)
 std::optional<qint64> integer(std::string_view text)
 {
     if (text.empty() || text.size() > 20)
-        return text.size() > 20 && std::all_of(text.begin() + 1, text.end(), [](char c) { return c >= '0' && c <= '9'; })
+        return text.size() > 20
+                && std::all_of(text.begin() + 1, text.end(), [](char c) { return c >= '0' && c <= '9'; })
             ? std::optional<qint64>(std::numeric_limits<qint64>::max())
             : std::nullopt;
     qint64 value = 0;
@@ -159,6 +160,7 @@ private:
     bool label();
     void ifLine();
     void doLine();
+    void addLine(const Script::Line& line);
     void scriptLine();
     void headerLine();
     bool keyword(std::string_view upper);
@@ -275,7 +277,8 @@ void Compilation::logicalLine(size_t& at, int& physicalLine)
 
 std::pair<int, int> Compilation::place(size_t at) const
 {
-    auto piece = std::upper_bound(pieces.begin(), pieces.end(), at, [](size_t p, const Piece& candidate) { return p < candidate.at; });
+    auto piece = std::upper_bound(pieces.begin(), pieces.end(), at,
+                                  [](size_t p, const Piece& candidate) { return p < candidate.at; });
     if (piece != pieces.begin())
         --piece;
     const size_t bytes = std::min(piece->offset + (at - piece->at), piece->physical.size());
@@ -373,13 +376,13 @@ void Compilation::parseLine()
     else if (sameWord(first, "HEADER"))
         headerLine();
     else
-        error(begin, "a line starts with IF, DO, script or header, not " + quote(first.empty() ? text.substr(pos, 1) : first));
+        error(begin,
+              "a line starts with IF, DO, script or header, not " + quote(first.empty() ? text.substr(pos, 1) : first));
 }
 
 void Compilation::ifLine()
 {
     Script::Line line;
-    const size_t index = result.lines.size();
     statement(line.condition, true, Script::LineIf, "THEN");
     if (keyword("THEN")) {
         statement(line.thenAction, false, Script::LineThen, "ELSE");
@@ -389,9 +392,16 @@ void Compilation::ifLine()
     } else {
         error(pos, "IF needs THEN and an action");
     }
-    if (qint64(index) >= limit && !tooManyLines) {
+    addLine(line);
+}
+
+// The line limit is reported once, at the first line past it.
+void Compilation::addLine(const Script::Line& line)
+{
+    if (qint64(result.lines.size()) >= limit && !tooManyLines) {
         tooManyLines = true;
-        error(0, "more than " + std::to_string(limit) + " lines: a script file counts at most " + std::to_string(limit));
+        error(0,
+              "more than " + std::to_string(limit) + " lines: a script file counts at most " + std::to_string(limit));
     }
     result.lines.push_back(line);
 }
@@ -399,7 +409,6 @@ void Compilation::ifLine()
 void Compilation::doLine()
 {
     Script::Line line;
-    const size_t index = result.lines.size();
     skipSpaces();
     // The condition slots of a line without condition, when they hold anything.
     if (!atEnd() && text[pos] == '[')
@@ -408,11 +417,7 @@ void Compilation::doLine()
     if (keyword("ELSE"))
         statement(line.elseAction, false, Script::LineElse, "ELSE");
     expectEnd();
-    if (qint64(index) >= limit && !tooManyLines) {
-        tooManyLines = true;
-        error(0, "more than " + std::to_string(limit) + " lines: a script file counts at most " + std::to_string(limit));
-    }
-    result.lines.push_back(line);
+    addLine(line);
 }
 
 // The end of a statement: its annotation, the next keyword or the end of the line, outside parentheses.
@@ -535,9 +540,10 @@ Operand Compilation::operand(size_t open, size_t close)
     } else if (ScriptSyntax::numberType(whole) >= 0) {
         error(open, quote("(" + std::string(inside) + ")") + " needs a value, as in (" + std::string(inside) + " 5)");
     } else {
-        error(open, "unknown operand " + quote("(" + std::string(inside) + ")")
-                        + ": a number is (Type value) with Type one of Counter, Global Var, Local Var, Number, "
-                          "Global Flag, PC Var, PC Flag; an object is named, as (Triggerer)");
+        error(open,
+              "unknown operand " + quote("(" + std::string(inside) + ")")
+                  + ": a number is (Type value) with Type one of Counter, Global Var, Local Var, Number, "
+                    "Global Flag, PC Var, PC Flag; an object is named, as (Triggerer)");
     }
     return op;
 }
@@ -576,10 +582,11 @@ bool Compilation::unknownCode(const std::string& key, bool condition, Script::St
     else if (condition && *code == 0)
         error(at, "condition 0 marks a line without condition: write DO and the action", pos);
     else if (condition ? Script::isConditionCode(qint32(*code)) : Script::isActionCode(qint32(*code)))
-        error(at, std::string(condition ? "condition " : "action ") + std::string(digits)
-                      + " is in the catalogue: write its template, "
-                      + quote(ScriptSyntax::pattern(condition ? *syntax.condition(qint32(*code))
-                                                              : *syntax.action(qint32(*code)))),
+        error(at,
+              std::string(condition ? "condition " : "action ") + std::string(digits)
+                  + " is in the catalogue: write its template, "
+                  + quote(ScriptSyntax::pattern(condition ? *syntax.condition(qint32(*code))
+                                                          : *syntax.action(qint32(*code)))),
               pos);
     else
         out.code = qint32(*code);
@@ -616,25 +623,31 @@ void Compilation::mismatch(const std::string& key, const std::vector<Operand>& o
         for (size_t i = 0; i < operands.size() && i < entry.operands.size(); ++i)
             if (entry.operands[i] != operands[i].mark) {
                 const bool wantsObject = entry.operands[i] == ScriptSyntax::ObjectMark;
-                error(operands[i].at, "operand " + std::to_string(i + 1) + " of " + quote(ScriptSyntax::pattern(entry))
-                                          + (wantsObject ? " is an object, as (Triggerer)" : " is a number, as (Number 5)"));
+                error(operands[i].at,
+                      "operand " + std::to_string(i + 1) + " of " + quote(ScriptSyntax::pattern(entry))
+                          + (wantsObject ? " is an object, as (Triggerer)" : " is a number, as (Number 5)"));
                 return;
             }
     }
     for (const ScriptSyntax::Template& entry : all)
         if (words(entry.key) == words(key)) {
-            error(at, quote(ScriptSyntax::pattern(entry)) + " takes " + std::to_string(entry.operands.size())
-                          + " operand" + (entry.operands.size() == 1 ? "" : "s") + ", not "
-                          + std::to_string(operands.size()),
+            error(at,
+                  quote(ScriptSyntax::pattern(entry)) + " takes " + std::to_string(entry.operands.size()) + " operand"
+                      + (entry.operands.size() == 1 ? "" : "s") + ", not " + std::to_string(operands.size()),
                   pos);
             return;
         }
     for (const ScriptSyntax::Template* other : syntax.withKey(!condition, key)) {
-        error(at, quote(ScriptSyntax::pattern(*other)) + (condition ? " is an action, not a condition" : " is a condition, not an action"), pos);
+        error(at,
+              quote(ScriptSyntax::pattern(*other))
+                  + (condition ? " is an action, not a condition" : " is a condition, not an action"),
+              pos);
         return;
     }
-    error(at, std::string(condition ? "unknown condition " : "unknown action ")
-                  + quote(trimmed(std::string_view(text).substr(at, pos - at))) + nearest(key, condition), pos);
+    error(at,
+          std::string(condition ? "unknown condition " : "unknown action ")
+              + quote(trimmed(std::string_view(text).substr(at, pos - at))) + nearest(key, condition),
+          pos);
 }
 
 std::string Compilation::nearest(const std::string& key, bool condition) const
@@ -712,8 +725,9 @@ std::optional<qint64> Compilation::itemNumber(const Item& item, qint64 low, qint
     if (!value)
         error(item.valueAt, std::string(item.key) + " takes a number, not " + quote(item.value));
     else if (*value < low || *value > high)
-        error(item.valueAt, std::string(item.key) + " " + std::string(item.value) + " is outside " + std::to_string(low)
-                                + " to " + std::to_string(high));
+        error(item.valueAt,
+              std::string(item.key) + " " + std::string(item.value) + " is outside " + std::to_string(low) + " to "
+                  + std::to_string(high));
     else
         return value;
     return std::nullopt;
@@ -747,15 +761,16 @@ void Compilation::annotation(Script::Statement& out, const std::string& shown)
         }
         seen += std::string(item.key) + ' ';
         if (used && (isType || shown[slot] == ScriptSyntax::NumberMark)) {
-            error(item.keyAt, "slot " + std::string(1, digit) + " is operand " + std::string(1, digit)
-                                  + " of the sentence: write it there");
+            error(item.keyAt,
+                  "slot " + std::string(1, digit) + " is operand " + std::string(1, digit)
+                      + " of the sentence: write it there");
             continue;
         }
         if (isType) {
             if (const std::optional<qint64> type = itemNumber(item, 0, 255))
                 out.types[slot] = quint8(*type);
-        } else if (const std::optional<qint64> value = itemNumber(item, std::numeric_limits<qint32>::min(),
-                                                                   std::numeric_limits<qint32>::max())) {
+        } else if (const std::optional<qint64> value
+                   = itemNumber(item, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max())) {
             out.values[slot] = qint32(*value);
         }
     }
@@ -845,8 +860,9 @@ std::optional<std::string> Compilation::description(size_t& at)
     }
     at = i + 1;
     if (bytes.size() > size_t(Script::DescSize)) {
-        error(open, "the description takes " + std::to_string(bytes.size()) + " bytes; the header holds "
-                        + std::to_string(Script::DescSize));
+        error(open,
+              "the description takes " + std::to_string(bytes.size()) + " bytes; the header holds "
+                  + std::to_string(Script::DescSize));
         readable = false;
     }
     return readable ? std::optional<std::string>(bytes) : std::nullopt;
@@ -895,8 +911,9 @@ void Compilation::headerItem(const Item& item)
         descTail = hexBytes(item, Script::DescSize - 1);
         descTailPlace = place(item.keyAt);
     } else {
-        error(item.keyAt, "unknown header field " + quote(item.key)
-                              + "; the fields are word0, bytes4, word48, lines, bound, word60 and desc-tail");
+        error(item.keyAt,
+              "unknown header field " + quote(item.key)
+                  + "; the fields are word0, bytes4, word48, lines, bound, word60 and desc-tail");
     }
 }
 
@@ -923,7 +940,8 @@ void Compilation::resolveLabels()
     for (const LabelUse& use : labelUses) {
         const auto found = labels.find(use.name);
         if (found == labels.end()) {
-            result.diagnostics.push_back({use.diagnosticLine, use.diagnosticColumn, "label " + quote(use.name) + " is not defined"});
+            result.diagnostics.push_back(
+                {use.diagnosticLine, use.diagnosticColumn, "label " + quote(use.name) + " is not defined"});
             continue;
         }
         Script::Line& line = result.lines[use.line];
@@ -939,8 +957,9 @@ void Compilation::finishHeader()
     head.lineCount = qint32(std::min(count, qint64(std::numeric_limits<qint32>::max())));
     if (lineCount) {
         if (count > 0)
-            result.diagnostics.push_back({lineCountPlace.first, lineCountPlace.second,
-                                          "a negative line count holds no lines, but the source has " + std::to_string(count)});
+            result.diagnostics.push_back(
+                {lineCountPlace.first, lineCountPlace.second,
+                 "a negative line count holds no lines, but the source has " + std::to_string(count)});
         head.lineCount = *lineCount;
     }
     head.lineBound = lineBound ? *lineBound : ScriptSyntax::defaultLineBound(count);

@@ -28,7 +28,8 @@ void appendHex(std::string& out, quint8 byte)
 
 bool isBlank(const Script::Statement& statement)
 {
-    return statement.code == 0 && std::all_of(statement.types.begin(), statement.types.end(), [](quint8 t) { return t == 0; })
+    return statement.code == 0
+        && std::all_of(statement.types.begin(), statement.types.end(), [](quint8 t) { return t == 0; })
         && std::all_of(statement.values.begin(), statement.values.end(), [](qint32 v) { return v == 0; });
 }
 

@@ -118,13 +118,13 @@ int ScriptSyntax::objectType(const std::string& key)
 std::string ScriptSyntax::numberTypeName(int type)
 {
     return type >= 0 && type < Script::NumTypeCount ? Script::numTypeToString(Script::NumType(type))
-                                                     : "type " + std::to_string(type);
+                                                    : "type " + std::to_string(type);
 }
 
 std::string ScriptSyntax::objectName(int type)
 {
     return type >= 0 && type < Script::ObjectTypeCount ? Script::objectTypeToString(Script::ObjectType(type))
-                                                        : "object " + std::to_string(type);
+                                                       : "object " + std::to_string(type);
 }
 
 std::string ScriptSyntax::numberOperand(int type, qint32 value)

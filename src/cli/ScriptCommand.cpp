@@ -121,18 +121,27 @@ bool ScriptCommand::compileFile(const QString& path, const QString& target)
     const arcanum::ScriptCompiler::Result compiled
         = arcanum::ScriptCompiler::compile(std::string_view(source.constData(), size_t(source.size())));
     for (const arcanum::ScriptCompiler::Diagnostic& d : compiled.diagnostics)
-        err(QStringLiteral("%1:%2:%3: error: %4").arg(path).arg(d.line).arg(d.column).arg(QString::fromStdString(d.message)));
+        err(QStringLiteral("%1:%2:%3: error: %4")
+                .arg(path)
+                .arg(d.line)
+                .arg(d.column)
+                .arg(QString::fromStdString(d.message)));
     if (!compiled.ok())
         return false;
     const int number = Script::idFromFilename(QFileInfo(target).fileName());
     if (number < 0) {
-        err(QStringLiteral("%1: error: a script's file name starts with its five-digit number (00042name.scr)").arg(target));
+        err(QStringLiteral("%1: error: a script's file name starts with its five-digit number (00042name.scr)")
+                .arg(target));
         return false;
     }
     if (compiled.number >= 0 && compiled.number != number) {
         err(QStringLiteral("%1:%2:%3: error: the source is script %4 but %5 is named for script %6")
-                .arg(path).arg(compiled.numberLine).arg(compiled.numberColumn).arg(compiled.number)
-                .arg(QFileInfo(target).fileName()).arg(number));
+                .arg(path)
+                .arg(compiled.numberLine)
+                .arg(compiled.numberColumn)
+                .arg(compiled.number)
+                .arg(QFileInfo(target).fileName())
+                .arg(number));
         return false;
     }
     return write(target, compiled.script().toBytes());
@@ -140,16 +149,18 @@ bool ScriptCommand::compileFile(const QString& path, const QString& target)
 
 int ScriptCommand::decompileAll(const QString& folder, const QString& outFolder)
 {
-    return eachFile(folder, outFolder, QStringLiteral(".scr"), "decompiled", [this](const QString& path, const QString& out) {
-        return decompileFile(path, QDir(out).filePath(sourceName(QFileInfo(path).fileName())));
-    });
+    return eachFile(folder, outFolder, QStringLiteral(".scr"), "decompiled",
+                    [this](const QString& path, const QString& out) {
+                        return decompileFile(path, QDir(out).filePath(sourceName(QFileInfo(path).fileName())));
+                    });
 }
 
 int ScriptCommand::compileAll(const QString& folder, const QString& outFolder)
 {
-    return eachFile(folder, outFolder, QStringLiteral(".scr.txt"), "compiled", [this](const QString& path, const QString& out) {
-        return compileFile(path, QDir(out).filePath(scriptName(QFileInfo(path).fileName())));
-    });
+    return eachFile(folder, outFolder, QStringLiteral(".scr.txt"), "compiled",
+                    [this](const QString& path, const QString& out) {
+                        return compileFile(path, QDir(out).filePath(scriptName(QFileInfo(path).fileName())));
+                    });
 }
 
 int ScriptCommand::eachFile(const QString& folder, const QString& outFolder, const QString& suffix, const char* done,

@@ -73,7 +73,8 @@ QString ScriptSourceEdit::completionPrefix(bool& inOperand) const
     if (inOperand)
         return before.mid(open + 1);
     // A statement starts after a keyword, a label or the start of the line.
-    static const QRegularExpression start(QStringLiteral("(?i)(?:^\\s*(?:[A-Za-z_]\\w*\\s*:)?|\\b(?:IF|THEN|ELSE|DO)\\b)\\s*"));
+    static const QRegularExpression start(
+        QStringLiteral("(?i)(?:^\\s*(?:[A-Za-z_]\\w*\\s*:)?|\\b(?:IF|THEN|ELSE|DO)\\b)\\s*"));
     int from = 0;
     auto matches = start.globalMatch(before);
     while (matches.hasNext())
@@ -87,13 +88,15 @@ void ScriptSourceEdit::complete()
     const QString prefix = completionPrefix(inOperand);
     completion->setModel(inOperand ? operands : statements);
     completion->setCompletionPrefix(prefix);
-    if (completion->completionCount() == 0 || (completion->completionCount() == 1 && completion->currentCompletion() == prefix)) {
+    if (completion->completionCount() == 0
+        || (completion->completionCount() == 1 && completion->currentCompletion() == prefix)) {
         completion->popup()->hide();
         return;
     }
     completion->popup()->setCurrentIndex(completion->completionModel()->index(0, 0));
     QRect rect = cursorRect();
-    rect.setWidth(completion->popup()->sizeHintForColumn(0) + completion->popup()->verticalScrollBar()->sizeHint().width());
+    rect.setWidth(completion->popup()->sizeHintForColumn(0)
+                  + completion->popup()->verticalScrollBar()->sizeHint().width());
     completion->complete(rect);
 }
 
@@ -139,9 +142,12 @@ void ScriptSourceEdit::keyPressEvent(QKeyEvent* event)
     const bool asked = event->key() == Qt::Key_Space && (event->modifiers() & Qt::ControlModifier);
     if (!asked)
         QPlainTextEdit::keyPressEvent(event);
-    const bool typed = !event->text().isEmpty() && event->text().at(0).isPrint() && !(event->modifiers() & Qt::ControlModifier);
+    const bool typed
+        = !event->text().isEmpty() && event->text().at(0).isPrint() && !(event->modifiers() & Qt::ControlModifier);
     bool inOperand = false;
-    if (asked || (typed && (completionPrefix(inOperand).trimmed().size() >= MinimumPrefix || event->text() == QLatin1String("("))))
+    if (asked
+        || (typed
+            && (completionPrefix(inOperand).trimmed().size() >= MinimumPrefix || event->text() == QLatin1String("("))))
         complete();
     else if (!typed)
         completion->popup()->hide();

@@ -68,11 +68,14 @@ ScriptSourceView::ScriptSourceView(QWidget* parent)
     connect(edit, &QPlainTextEdit::textChanged, this, &ScriptSourceView::textEdited);
     connect(applyButton, &QPushButton::clicked, this, &ScriptSourceView::apply);
     connect(revertButton, &QPushButton::clicked, this, [this] {
-        if (!edited || Prompt::question(this, tr("Revert the source"), tr("Drop the edits not applied to the script?"),
-                                        QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes)
+        if (!edited
+            || Prompt::question(this, tr("Revert the source"), tr("Drop the edits not applied to the script?"),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+                == QMessageBox::Yes)
             revert();
     });
-    connect(list, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) { goToDiagnostic(list->row(item)); });
+    connect(list, &QListWidget::itemActivated, this,
+            [this](QListWidgetItem* item) { goToDiagnostic(list->row(item)); });
     connect(list, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { goToDiagnostic(list->row(item)); });
     connect(edit, &ScriptSourceEdit::findRequested, finder, &SourceFindBar::open);
     updateState();
@@ -213,7 +216,8 @@ void ScriptSourceView::showDiagnostics(const std::vector<ScriptCompiler::Diagnos
     underline.setUnderlineStyle(QTextCharFormat::WaveUnderline);
     underline.setUnderlineColor(Qt::red);
     for (const ScriptCompiler::Diagnostic& d : diagnostics) {
-        auto* item = new QListWidgetItem(tr("Line %1, column %2: %3").arg(d.line).arg(d.column).arg(QString::fromStdString(d.message)), list);
+        auto* item = new QListWidgetItem(
+            tr("Line %1, column %2: %3").arg(d.line).arg(d.column).arg(QString::fromStdString(d.message)), list);
         item->setData(Qt::UserRole, d.line);
         item->setData(Qt::UserRole + 1, d.column);
         item->setForeground(Qt::darkRed);
@@ -229,7 +233,8 @@ void ScriptSourceView::showDiagnostics(const std::vector<ScriptCompiler::Diagnos
                 ++end;
         QTextCursor cursor(block);
         cursor.setPosition(block.position() + start);
-        cursor.setPosition(block.position() + std::min(std::max(end, start + 1), int(text.size())), QTextCursor::KeepAnchor);
+        cursor.setPosition(block.position() + std::min(std::max(end, start + 1), int(text.size())),
+                           QTextCursor::KeepAnchor);
         marks.append({cursor, underline});
     }
     edit->setExtraSelections(marks);
@@ -262,7 +267,8 @@ void ScriptSourceView::updateState()
     else if (list->count() > 0)
         state->setText(tr("The source does not compile; mistakes: %1").arg(list->count()));
     else if (stale)
-        state->setText(tr("The script changed since this source was written: Apply replaces those changes, Revert takes them"));
+        state->setText(
+            tr("The script changed since this source was written: Apply replaces those changes, Revert takes them"));
     else if (edited)
         state->setText(tr("Edited: Apply compiles the source into the script"));
     else

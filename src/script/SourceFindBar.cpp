@@ -31,12 +31,14 @@ SourceFindBar::SourceFindBar(QPlainTextEdit* textEditor, QWidget* parent)
         made->setAutoDefault(false);
         return made;
     };
-    QPushButton* previous = button(QStringLiteral("buttonFindPrevious"), tr("Previous"), tr("Find the previous place (Shift+Enter)"));
+    QPushButton* previous
+        = button(QStringLiteral("buttonFindPrevious"), tr("Previous"), tr("Find the previous place (Shift+Enter)"));
     QPushButton* next = button(QStringLiteral("buttonFindNext"), tr("Next"), tr("Find the next place (Enter)"));
     layout->addWidget(previous);
     layout->addWidget(next);
     layout->addWidget(replaceText, 2);
-    QPushButton* one = button(QStringLiteral("buttonReplace"), tr("Replace"), tr("Replace the found text and find the next"));
+    QPushButton* one
+        = button(QStringLiteral("buttonReplace"), tr("Replace"), tr("Replace the found text and find the next"));
     QPushButton* all = button(QStringLiteral("buttonReplaceAll"), tr("Replace all"), tr("Replace every place at once"));
     layout->addWidget(one);
     layout->addWidget(all);
