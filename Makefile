@@ -94,7 +94,7 @@ bench: deps
 # ---- Fuzzing: one libFuzzer harness per file format reader (see fuzz/) ----
 FUZZ_DIR := build/fuzz
 FUZZ_SECONDS ?= 60
-FUZZ_KINDS := mes-utf8 mes-cp1251 dlg-table dlg scr art pro aap dat art-folder
+FUZZ_KINDS := mes-utf8 mes-cp1251 dlg-table dlg scr scr-source art pro aap dat art-folder
 # Sprites may be large, but no input of a few kilobytes has a reason to need more than this.
 FUZZ_OPTIONS := -rss_limit_mb=2048 -timeout=25 -print_final_stats=1
 # The harness of $kind (a shell variable of the loops below): mes-utf8 is fuzz_mes_utf8.

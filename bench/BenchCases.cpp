@@ -21,6 +21,10 @@
 #include "Proto.h"
 #include "SafeSave.h"
 #include "Script.h"
+#include "ScriptDocument.h"
+#include "ScriptSourceView.h"
+#include "ScriptCompiler.h"
+#include "ScriptDecompiler.h"
 
 #include <QApplication>
 #include <QDir>
@@ -189,12 +193,31 @@ void addDialogue(Registrar& r, const QString& game, const QString& out)
     addMesfile(r, "dlg load, message table", "dlg save, message table", path, target, "Windows-1251");
 }
 
+// Scripts as text: each of decompiling and compiling 100 000 lines within a second, timed against a
+// memcpy of the compiled file's bytes.
+void addScriptSource(Registrar& r, const QString& path)
+{
+    const double bytes = fileSize(path);
+    r.addPrepared("scr decompile (100 000 lines)", bytes, Goal::Seconds, 1.0, [path]() -> Registrar::Body {
+        auto loaded = std::make_shared<arcanum::Script>();
+        loaded->load(path);
+        return [loaded] { benchmark::DoNotOptimize(arcanum::ScriptDecompiler::decompile(*loaded).size()); };
+    });
+    r.addPrepared("scr compile (100 000 lines)", bytes, Goal::Seconds, 1.0, [path]() -> Registrar::Body {
+        arcanum::Script script;
+        script.load(path);
+        auto source = std::make_shared<std::string>(arcanum::ScriptDecompiler::decompile(script));
+        return [source] { benchmark::DoNotOptimize(arcanum::ScriptCompiler::compile(*source).lines.size()); };
+    });
+}
+
 void addScript(Registrar& r, const QString& game, const QString& out)
 {
     addLoadSave<arcanum::Script>(
         r, "scr load (100 000 lines)", "scr save", false, BenchInputs::scriptPath(game),
         out + QStringLiteral("/00001out.scr"), [](arcanum::Script& script, const QString& from) { script.load(from); },
         [](arcanum::Script& script, const QString& to) { script.save(to); });
+    addScriptSource(r, BenchInputs::scriptPath(game));
 }
 
 void addArt(Registrar& r, const QString& game, const QString& out)
@@ -459,6 +482,21 @@ void addConversationGraph(Registrar& r)
             bar->setValue(bar->value() + bar->pageStep() > bar->maximum() ? 0 : bar->value() + bar->pageStep());
             QPainter painter(frame.get());
             view->render(&painter);
+// The Script tab's Source view filled with a 100 000-line script: decompiled, laid out and coloured.
+void addScriptSourceView(Registrar& r, const QString& game)
+{
+    const QString path = BenchInputs::scriptPath(game);
+    r.addPrepared("Source view shows 100 000 script lines", fileSize(path), Goal::None, 0, [path]() -> Registrar::Body {
+        QString error;
+        std::shared_ptr<ScriptDocument> document = ScriptDocument::fromBytes(path, readAll(path), error);
+        auto view = std::make_shared<ScriptSourceView>();
+        view->resize(1000, 700);
+        view->show();
+        QApplication::processEvents();
+        return [view, document] {
+            view->setDocument(document.get());
+            QApplication::processEvents();
+            view->setDocument(nullptr);
         };
     });
 }
@@ -670,6 +708,7 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
     addConversationGraph(r);
+    addScriptSourceView(r, gameDir);
     addArchives(r, outDir);
     addRewrites(r, gameDir);
     addFind(r, outDir);

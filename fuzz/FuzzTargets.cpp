@@ -7,6 +7,9 @@
 #include "DialogueFile.h"
 #include "FormatRegistry.h"
 #include "Mesfile.h"
+#include "Script.h"
+#include "ScriptCompiler.h"
+#include "ScriptDecompiler.h"
 
 #include <QDir>
 #include <QFile>
@@ -148,6 +151,7 @@ const Target TARGETS[] = {
     {"dlg-table", ".dlg", &roundTripDialogueTable},
     {"dlg", ".dlg", &roundTripDialogue},
     {"scr", ".scr", &roundTripScript},
+    {"scr-source", ".scr.txt", &roundTripScriptSource},
     {"art", ".art", &roundTripArt},
     {"pro", ".pro", &roundTripProto},
     {"aap", ".aap", &roundTripPalette},
@@ -178,9 +182,29 @@ int roundTripDialogue(const std::uint8_t* data, std::size_t size)
     return roundTripFormat("dlg", data, size, cp1251());
 }
 
+// Whatever the loader accepts also decompiles to a source that compiles to the same bytes.
 int roundTripScript(const std::uint8_t* data, std::size_t size)
 {
+    arcanum::Script script;
+    script.loadBytes(QStringLiteral("00001fuzz.scr"), QByteArray::fromRawData(reinterpret_cast<const char*>(data), int(size)));
+    const arcanum::ScriptCompiler::Result compiled = arcanum::ScriptCompiler::compile(arcanum::ScriptDecompiler::decompile(script));
+    if (!compiled.ok() || compiled.script().toBytes() != script.toBytes())
+        return 1;
     return roundTripFormat("scr", data, size, nullptr);
+}
+
+// Any text compiles or is refused; what compiles decompiles to a source of the same bytes.
+int roundTripScriptSource(const std::uint8_t* data, std::size_t size)
+{
+    const arcanum::ScriptCompiler::Result first
+        = arcanum::ScriptCompiler::compile(std::string_view(reinterpret_cast<const char*>(data), size));
+    if (!first.ok())
+        return 0;
+    const QByteArray bytes = first.script().toBytes();
+    arcanum::Script script;
+    script.loadBytes(QStringLiteral("00001fuzz.scr"), bytes);
+    const arcanum::ScriptCompiler::Result second = arcanum::ScriptCompiler::compile(arcanum::ScriptDecompiler::decompile(script));
+    return second.ok() && second.script().toBytes() == bytes ? 0 : 1;
 }
 
 int roundTripArt(const std::uint8_t* data, std::size_t size)

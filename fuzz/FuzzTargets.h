@@ -22,6 +22,8 @@ int roundTripMesCp1251(const std::uint8_t* data, std::size_t size);
 int roundTripDialogueTable(const std::uint8_t* data, std::size_t size);
 int roundTripDialogue(const std::uint8_t* data, std::size_t size);
 int roundTripScript(const std::uint8_t* data, std::size_t size);
+// Script source text: compiled, decompiled and compiled again.
+int roundTripScriptSource(const std::uint8_t* data, std::size_t size);
 int roundTripArt(const std::uint8_t* data, std::size_t size);
 int roundTripProto(const std::uint8_t* data, std::size_t size);
 int roundTripPalette(const std::uint8_t* data, std::size_t size);

@@ -23,24 +23,27 @@ _loreka()
             return ;;
         --fps|--action|--hotspot|--number)
             return ;;
+        -o|--output)
+            _filedir
+            return ;;
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --encoding --from --dither --fps --action --hotspot --regex --case --number --as' -- "$cur"))
+        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --output --encoding --from --dither --fps --action --hotspot --regex --case --number --as' -- "$cur"))
         return
     fi
 
     local command="" sub="" i
     for ((i = 1; i < cword; i++)); do
         case ${words[i]} in
-            --palette|--format|--encoding|--from|--fps|--action|--hotspot|--number|--as) ((i++)) ;;
+            --palette|--format|--encoding|--from|--fps|--action|--hotspot|--number|--as|-o|--output) ((i++)) ;;
             -*) ;;
             *) if [[ -z $command ]]; then command=${words[i]}; elif [[ -z $sub ]]; then sub=${words[i]}; fi ;;
         esac
     done
 
     case $command in
-        "") COMPREPLY=($(compgen -W 'check dump roundtrip export art dat find' -- "$cur")) ;;
+        "") COMPREPLY=($(compgen -W 'check dump roundtrip export art dat find script' -- "$cur")) ;;
         check) _filedir -d ;;
         find) [[ -n $sub ]] && _filedir -d ;;
         dump|roundtrip) _filedir '@(mes|dlg|scr|art|aap|pro|dat)' ;;
@@ -57,6 +60,13 @@ _loreka()
             else
                 _filedir
             fi ;;
+        script)
+            case $sub in
+                "") COMPREPLY=($(compgen -W 'decompile compile decompile-all compile-all' -- "$cur")) ;;
+                decompile) _filedir scr ;;
+                compile) _filedir txt ;;
+                *) _filedir -d ;;
+            esac ;;
     esac
 } &&
     complete -F _loreka loreka

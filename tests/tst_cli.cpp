@@ -167,6 +167,11 @@ private slots:
         QTest::newRow("no data folder") << QStringList{"check", "/nonexistent"} << 2 << QString();
         QTest::newRow("dump missing file") << QStringList{"dump", "missing.mes"} << 2 << QString();
         QTest::newRow("export bad format") << QStringList{"export", "x.art", "out", "--format", "gif"} << 2 << QString();
+        QTest::newRow("script without action") << QStringList{"script"} << 2 << QStringLiteral("usage: loreka script");
+        QTest::newRow("script decompile missing file")
+            << QStringList{"script", "decompile", "missing.scr"} << 2 << QStringLiteral("missing.scr: error: cannot be read");
+        QTest::newRow("script compile without output name")
+            << QStringList{"script", "compile", "guard.txt"} << 2 << QStringLiteral("name the compiled file with -o");
         QTest::newRow("export of a message file")
             << QStringList{"export", "x.mes", "out"} << 2 << QStringLiteral("x.mes: error: not an art file");
     }
@@ -335,6 +340,57 @@ private slots:
             if (code == 2)
                 QVERIFY(run.err.contains("loreka: find: "));
         }
+    // Every script of the sample game as text and back gives the same bytes, through both the
+    // single-file and the whole-folder commands.
+    void scriptDecompileCompileAll()
+    {
+        const QString scripts = game + "/data/scr";
+        const QString text = scratch.filePath("script-text");
+        const QString compiled = scratch.filePath("script-compiled");
+        QCOMPARE(loreka({"script", "decompile-all", scripts, text}).code, 0);
+        const Run all = loreka({"script", "compile-all", text, compiled});
+        QCOMPARE(all.code, 0);
+        QVERIFY2(all.out.contains("3 scripts compiled"), qPrintable(all.out));
+        for (const QString& name : QDir(scripts).entryList({"*.scr"}, QDir::Files)) {
+            QCOMPARE(FormatChecks::readFile(compiled + "/" + name), FormatChecks::readFile(scripts + "/" + name));
+            QVERIFY(QFile::exists(text + "/" + name + ".txt"));
+        }
+        const Run single = loreka({"script", "decompile", scripts + "/00001gate_guard.scr"});
+        QCOMPARE(single.code, 0);
+        QVERIFY(single.out.startsWith("script 1 \"Gate guard"));
+        const QString out = scratch.filePath("00001again.scr");
+        QCOMPARE(loreka({"script", "compile", text + "/00001gate_guard.scr.txt", "-o", out}).code, 0);
+        QCOMPARE(FormatChecks::readFile(out), FormatChecks::readFile(scripts + "/00001gate_guard.scr"));
+    }
+
+    void scriptCompileErrors_data()
+    {
+        QTest::addColumn<QByteArray>("source");
+        QTest::addColumn<QString>("output");
+        QTest::addColumn<QString>("diagnostic");
+        QTest::newRow("unknown statement") << QByteArray("script 7 \"x\"\nDO do nothin\n") << "00007x.scr"
+                                           << "src.scr.txt:2:4: error: unknown action 'do nothin'; did you mean 'do nothing'?";
+        QTest::newRow("undefined label") << QByteArray("DO goto line (Number end)\n") << "00007x.scr"
+                                         << "src.scr.txt:1:22: error: label 'end' is not defined";
+        QTest::newRow("number and file name differ") << QByteArray("script 8 \"x\"\n") << "00007x.scr"
+                                                     << "src.scr.txt:1:8: error: the source is script 8 but 00007x.scr";
+        QTest::newRow("file name without number") << QByteArray("DO do nothing\n") << "guard.scr"
+                                                  << "guard.scr: error: a script's file name starts with its five-digit";
+    }
+
+    // A source with mistakes says where each one stands and writes nothing.
+    void scriptCompileErrors()
+    {
+        QFETCH(QByteArray, source);
+        QFETCH(QString, output);
+        QFETCH(QString, diagnostic);
+        const QString folder = scratch.filePath("compile-errors");
+        QDir().mkpath(folder);
+        QVERIFY(FormatChecks::writeFile(folder + "/src.scr.txt", source));
+        const Run run = loreka({"script", "compile", "src.scr.txt", "-o", output}, folder);
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.err.contains(diagnostic), qPrintable(run.err));
+        QVERIFY(!QFile::exists(folder + "/" + output));
     }
 
     void datPackListExtractVerify()

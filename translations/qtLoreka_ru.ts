@@ -3112,6 +3112,73 @@ Restore them (they open modified, not saved) or discard them?</source>
     </message>
 </context>
 <context>
+    <name>ScriptSourceView</name>
+    <message>
+        <source>Apply</source>
+        <translation>Применить</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Вернуть</translation>
+    </message>
+    <message>
+        <source>Compile the source into the script, as one step that Undo takes back</source>
+        <translation>Скомпилировать исходный текст в скрипт одним шагом, который отменяется командой «Отменить»</translation>
+    </message>
+    <message>
+        <source>Write the source again from the script, dropping the edits</source>
+        <translation>Заново записать исходный текст из скрипта, отбросив правки</translation>
+    </message>
+    <message>
+        <source>Revert the source</source>
+        <translation>Вернуть исходный текст</translation>
+    </message>
+    <message>
+        <source>Drop the edits not applied to the script?</source>
+        <translation>Отбросить правки, не применённые к скрипту?</translation>
+    </message>
+    <message>
+        <source>the source is script %1 but the open file is script %2</source>
+        <translation>исходный текст — скрипт %1, а открыт файл скрипта %2</translation>
+    </message>
+    <message>
+        <source>Apply source</source>
+        <translation>Применить исходный текст</translation>
+    </message>
+    <message>
+        <source>Unapplied source</source>
+        <translation>Неприменённый исходный текст</translation>
+    </message>
+    <message>
+        <source>The source holds edits not applied to the script. Apply them before leaving it?</source>
+        <translation>В исходном тексте есть правки, не применённые к скрипту. Применить их перед уходом?</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Строка %1, столбец %2: %3</translation>
+    </message>
+    <message>
+        <source>No script</source>
+        <translation>Нет скрипта</translation>
+    </message>
+    <message>
+        <source>The source does not compile; mistakes: %1</source>
+        <translation>Текст не компилируется; ошибок: %1</translation>
+    </message>
+    <message>
+        <source>The script changed since this source was written: Apply replaces those changes, Revert takes them</source>
+        <translation>Скрипт изменился после того, как был записан этот текст: «Применить» заменит те изменения, «Вернуть» примет их</translation>
+    </message>
+    <message>
+        <source>Edited: Apply compiles the source into the script</source>
+        <translation>Изменено: «Применить» скомпилирует текст в скрипт</translation>
+    </message>
+    <message>
+        <source>The source of the script as it stands</source>
+        <translation>Исходный текст скрипта в его нынешнем виде</translation>
+    </message>
+</context>
+<context>
     <name>ScriptWidget</name>
     <message>
         <source>Script</source>
@@ -3204,6 +3271,77 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>Save script as</source>
         <translation>Сохранить скрипт как</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Исходный текст</translation>
+    </message>
+    <message>
+        <source>The script as text: edit, check and apply it</source>
+        <translation>Скрипт как текст: правка, проверка и применение</translation>
+    </message>
+</context>
+<context>
+    <name>SourceFindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>Найти</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Заменить на</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Предыдущее</translation>
+    </message>
+    <message>
+        <source>Find the previous place (Shift+Enter)</source>
+        <translation>Найти предыдущее место (Shift+Enter)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Следующее</translation>
+    </message>
+    <message>
+        <source>Find the next place (Enter)</source>
+        <translation>Найти следующее место (Enter)</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Replace the found text and find the next</source>
+        <translation>Заменить найденное и найти следующее</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Заменить все</translation>
+    </message>
+    <message>
+        <source>Replace every place at once</source>
+        <translation>Заменить все места сразу</translation>
+    </message>
+    <message>
+        <source>Close (Escape)</source>
+        <translation>Закрыть (Escape)</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Не найдено</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n replaced</source>
+        <translation>
+            <numerusform>Заменено: %n</numerusform>
+            <numerusform>Заменено: %n</numerusform>
+            <numerusform>Заменено: %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

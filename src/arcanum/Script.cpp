@@ -216,6 +216,12 @@ void Script::clear()
     lines.clear();
 }
 
+void Script::setContent(const Header& newHeader, std::vector<Line> newLines)
+{
+    header = newHeader;
+    lines = std::move(newLines);
+}
+
 bool Script::isLine(int index) const
 {
     return index >= 0 && static_cast<size_t>(index) < lines.size();

@@ -125,6 +125,8 @@ public:
     static int idFromFilename(const QString& name);
 
     void clear();
+    // Replaces header and lines at once (a compiled source); the number and the file name stay.
+    void setContent(const Header& newHeader, std::vector<Line> newLines);
     int getId() const { return id; }
     // The path of the last successful load.
     QString getFileName() const { return fileName; }

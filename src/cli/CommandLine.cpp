@@ -8,6 +8,7 @@
 #include "FindCommand.h"
 #include "ModelChatter.h"
 #include "RoundtripCommand.h"
+#include "ScriptCommand.h"
 
 #include <QDir>
 #include <QSettings>
@@ -25,6 +26,8 @@ CommandLine::CommandLine()
                    QStringLiteral("FORMAT"), QStringLiteral("png"))
     , sheetOption(QStringLiteral("sheet"),
                   QStringLiteral("export, art export: sprite sheets, images as rows, frames as columns."))
+    , outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
+                   QStringLiteral("script decompile, compile: the file to write."), QStringLiteral("FILE"))
     , encodingOption(QStringLiteral("encoding"),
                      QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
                      QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
@@ -57,13 +60,17 @@ CommandLine::CommandLine()
         "  dat verify ARCHIVE            check an archive as the engine reads it\n"
         "  find PATTERN [DIR]            texts of message and dialogue files holding PATTERN\n"
         "  find --number N --as flag|var|script|message [DIR]  where the number is used\n"
-        "                                (find exits 0 when found, 1 when nothing was found)\n\n"
+        "                                (find exits 0 when found, 1 when nothing was found)\n"
+        "  script decompile SCR [-o FILE]  write a script as source text (standard output without -o)\n"
+        "  script compile SRC [-o SCR]   compile source text; NAME.scr.txt becomes NAME.scr without -o\n"
+        "  script decompile-all DIR OUTDIR  every .scr of DIR as OUTDIR/NAME.scr.txt\n"
+        "  script compile-all DIR OUTDIR  every .scr.txt of DIR as OUTDIR/NAME.scr\n\n"
         "Exit status: 0 clean, 1 problems or differences, 2 usage or input/output error."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, encodingOption, fromOption, ditherOption,
+    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, outputOption, encodingOption, fromOption, ditherOption,
                        fpsOption, actionOption, hotspotOption});
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, art, find or dat"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, art, find, script or dat"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
 
@@ -123,6 +130,8 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
         return FindCommand(codec).run(parser, operands);
     if (command == QLatin1String("dat"))
         return DatCommand(parser.isSet(jsonOption)).run(operands);
+    if (command == QLatin1String("script"))
+        return ScriptCommand(parser.value(outputOption)).run(operands);
     const QStringList known = {"check", "dump", "roundtrip", "export"};
     return usageError(known.contains(command) ? QStringLiteral("wrong number of arguments for %1").arg(command)
                                               : QStringLiteral("unknown command \"%1\"").arg(command));

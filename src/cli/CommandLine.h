@@ -32,6 +32,7 @@ private:
     QCommandLineOption paletteOption;
     QCommandLineOption formatOption;
     QCommandLineOption sheetOption;
+    QCommandLineOption outputOption;
     QCommandLineOption encodingOption;
     QCommandLineOption fromOption;
     QCommandLineOption ditherOption;

@@ -1,5 +1,7 @@
 #include "ScriptStatement.h"
 
+#include "ScriptSyntax.h"
+
 #include <QJsonArray>
 
 using arcanum::Script;
@@ -32,15 +34,14 @@ QString ScriptStatement::keyword() const
     return QStringLiteral("DO");
 }
 
+// Operands are spelt as the source of a script spells them, so a dump reads like the source.
 QString ScriptStatement::operandText(const Script::Token& token)
 {
     switch (token.kind) {
     case Script::Token::Num:
-        return QStringLiteral("(%1 %2)")
-            .arg(QString::fromStdString(Script::numTypeToString(Script::NumType(token.numType))))
-            .arg(token.value);
+        return QString::fromStdString(arcanum::ScriptSyntax::numberOperand(token.numType, token.value));
     case Script::Token::Obj:
-        return QStringLiteral("(%1)").arg(QString::fromStdString(Script::objectTypeToString(Script::ObjectType(token.value))));
+        return QString::fromStdString(arcanum::ScriptSyntax::objectOperand(token.value));
     case Script::Token::LineNum:
         return QStringLiteral("(line)");
     default:

@@ -88,6 +88,14 @@ QString ScriptDocument::fileNameFor(const QString& numberText, const QString& na
     return QStringLiteral("%1%2%3").arg(number, NUMBER_DIGITS, 10, QLatin1Char('0')).arg(rest, SCRIPT_SUFFIX);
 }
 
+void ScriptDocument::replaceContent(const Script::Header& header, std::vector<Script::Line> lines, const QString& text)
+{
+    beginEdit();
+    model.setContent(header, std::move(lines));
+    recordEdit(text);
+    emit changed();
+}
+
 bool ScriptDocument::serialize(QByteArray& bytes, QString& /*error*/) const
 {
     bytes = model.toBytes();

@@ -29,6 +29,10 @@ public:
     arcanum::Script& script() { return model; }
     const arcanum::Script& script() const { return model; }
 
+    // Puts a compiled source in place of header and lines as one undoable step named text.
+    void replaceContent(const arcanum::Script::Header& header, std::vector<arcanum::Script::Line> lines,
+                        const QString& text);
+
     bool serialize(QByteArray& bytes, QString& error) const override;
     QString damage() const override;
 

@@ -7,6 +7,7 @@
 #include "Prompt.h"
 #include "SaveGuard.h"
 #include "ScriptDocument.h"
+#include "ScriptSourceView.h"
 #include "TokensWidget.h"
 #include "WheelGuard.h"
 #include "ui_ScriptWidget.h"
@@ -16,6 +17,9 @@
 #include <QGridLayout>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QTabWidget>
+
+#include <utility>
 
 using arcanum::Script;
 
@@ -36,8 +40,37 @@ ScriptWidget::ScriptWidget(QWidget* parent)
     bold.setBold(true);
     ui->labelHeader->setFont(bold);
     ui->labelHeader->setMinimumWidth(ui->labelHeader->fontMetrics().horizontalAdvance(tr("No script")));
+    buildViews();
     WheelGuard::install(this);
     updateControls();
+}
+
+void ScriptWidget::buildViews()
+{
+    views = new QTabWidget(this);
+    views->setObjectName(QStringLiteral("tabViews"));
+    views->setDocumentMode(true);
+    const int at = ui->verticalLayout->indexOf(ui->scrollArea);
+    ui->verticalLayout->removeWidget(ui->scrollArea);
+    views->addTab(ui->scrollArea, tr("Lines"));
+    source = new ScriptSourceView(views);
+    views->addTab(source, tr("Source"));
+    views->setTabToolTip(1, tr("The script as text: edit, check and apply it"));
+    ui->verticalLayout->insertWidget(at, views, 1);
+    connect(views, &QTabWidget::currentChanged, this, &ScriptWidget::viewChanged);
+}
+
+void ScriptWidget::viewChanged(int index)
+{
+    const int left = std::exchange(shownView, index);
+    if (left == views->indexOf(source) && index != left && !source->settle())
+        views->setCurrentIndex(left); // the user stays with the source
+}
+
+void ScriptWidget::commitPending()
+{
+    if (source->isEdited())
+        source->settle();
 }
 
 ScriptWidget::~ScriptWidget() = default;
@@ -72,6 +105,7 @@ void ScriptWidget::showDocument()
         });
         connect(shown, &Document::modifiedChanged, this, &ScriptWidget::updateControls);
     }
+    source->setDocument(scriptDocument());
     updateHeader();
     updateCode();
     // Another script starts at its first line.
@@ -239,6 +273,7 @@ void ScriptWidget::on_editDesc_textEdited(const QString& text)
 
 void ScriptWidget::on_checkReadOnly_stateChanged(int)
 {
+    source->setReadOnly(readOnly());
     updateCode();
 }
 

@@ -11,7 +11,9 @@
 #include <memory>
 
 class QGridLayout;
+class QTabWidget;
 class ScriptDocument;
+class ScriptSourceView;
 class TokensWidget;
 
 namespace Ui {
@@ -35,6 +37,7 @@ public:
     ScriptDocument* scriptDocument() const;
     // The rows currently shown, top to bottom.
     const QList<TokensWidget*>& rows() const { return rowWidgets; }
+    ScriptSourceView* sourceView() const { return source; }
 
     // Writes the script under a new number and name (00042guard.scr) in its folder, asked for in a
     // dialog; a number outside 1 … 99999 or in use is refused with a message. The page then shows the
@@ -46,6 +49,8 @@ public:
 protected:
     void showDocument() override;
     QList<QWidget*> fileControls() const override;
+    // Unapplied source edits are applied or dropped (as the user says) before a save or a replacement.
+    void commitPending() override;
 
 private slots:
     void on_buttonNewIF_pressed();
@@ -74,6 +79,9 @@ private:
     void updateControls();
     void clearWidgets();
     bool readOnly() const;
+    // The rows and the Source view as two tabs; leaving the source asks about its unapplied edits.
+    void buildViews();
+    void viewChanged(int index);
 
     std::unique_ptr<Ui::ScriptWidget> ui;
     // Set while rows and header are filled from the script, so nothing they emit counts as an edit.
@@ -82,4 +90,7 @@ private:
     QGridLayout* grid = nullptr;
     QWidget* filler = nullptr;
     std::function<QStringList()> listedScripts;
+    QTabWidget* views = nullptr;
+    ScriptSourceView* source = nullptr;
+    int shownView = 0;
 };
