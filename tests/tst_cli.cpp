@@ -340,6 +340,8 @@ private slots:
             if (code == 2)
                 QVERIFY(run.err.contains("loreka: find: "));
         }
+    }
+
     // Every script of the sample game as text and back gives the same bytes, through both the
     // single-file and the whole-folder commands.
     void scriptDecompileCompileAll()
