@@ -189,7 +189,8 @@ private slots:
         for (const Run& run : {loreka({"check"}, game), loreka({"check", game})}) {
             QCOMPARE(run.code, 0);
             QCOMPARE(run.lines().size(), 1);
-            QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems$").match(run.out.trimmed()).hasMatch(),
+            // The Russian greeting is a line nothing leads to: a note, not a problem.
+            QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems, 1 note$").match(run.out.trimmed()).hasMatch(),
                      qPrintable(run.out));
         }
     }
@@ -234,7 +235,8 @@ private slots:
             << "archived wrong signature"
             << "arcanum2.dat/proto/wall_copy.pro:offset 0x0: error: wrong signature 1, expected 119";
         QTest::newRow("duplicate index") << "duplicate index"
-                                         << "data/dlg/bad.dlg:3: error: line index 2 is used again \\(first on line 2\\)";
+                                         << "data/dlg/bad.dlg:3: error: PC line 2: line number 2 is used again \\(first "
+                                            "on line 2\\)";
     }
 
     void checkFindsPlantedDefect()
@@ -248,8 +250,67 @@ private slots:
         const QStringList lines = run.lines();
         QCOMPARE(lines.size(), 2);
         QVERIFY2(QRegularExpression('^' + diagnostic + '$').match(lines.first()).hasMatch(), qPrintable(run.out));
-        QVERIFY2(QRegularExpression("^\\d+ files checked, 1 problem$").match(lines.last()).hasMatch(),
+        QVERIFY2(QRegularExpression("^\\d+ files checked, 1 problem, \\d+ notes?$").match(lines.last()).hasMatch(),
                  qPrintable(lines.last()));
+    }
+
+    // Dialogue lines as the game reads them: each planted line is an error with its file line, or a
+    // form the game reads that only --notes lists. The lines sit after a greeting (line 1) whose
+    // response 2 leads back to it.
+    void checkJudgesDialoguesAsTheGame_data()
+    {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<QString>("diagnostic");
+        const auto error = [](const QString& message) { return QStringLiteral("data/dlg/bad.dlg:3: error: ") + message; };
+        const auto note = [](const QString& message) { return QStringLiteral("data/dlg/bad.dlg:3: note: ") + message; };
+        QTest::newRow("response to a PC response")
+            << QByteArray("\t{3}{Hm}{}{1}{}{2}{}") << error("PC line 3: response line 2 is a PC response, not an NPC line");
+        QTest::newRow("response to a missing line")
+            << QByteArray("\t{3}{Hm}{}{1}{}{7}{}") << error("PC line 3: response line 7 does not exist");
+        QTest::newRow("intelligence without a number")
+            << QByteArray("\t{3}{Hm}{}{high}{}{1}{}")
+            << error("PC line 3: intelligence 'high' has no number: the game stops reading the file here");
+        QTest::newRow("# opening a response")
+            << QByteArray("\t{3}{#Hm}{}{1}{}{1}{}") << error("PC line 3: a response must not start with '#'");
+        QTest::newRow("unknown opcode")
+            << QByteArray("\t{3}{Hm}{}{1}{zz 1}{1}{}") << error("PC line 3: opcode 'zz' is unknown");
+        QTest::newRow("file breaks off inside an entry")
+            << QByteArray("\t{3}{Hm}{}{1") << error("the file breaks off inside an entry \\(3 of its 7 items\\); it and "
+                                                   "the rest of the file are kept as text");
+        QTest::newRow("empty response")
+            << QByteArray("\t{3}{Hm}{}{1}{}{}{}")
+            << note("PC line 3: Response line is empty: the game reads it as 0, the end of the conversation");
+        QTest::newRow("intelligence with more after its number")
+            << QByteArray("\t{3}{Hm}{}{5, -17}{}{1}{}")
+            << note("PC line 3: Intelligence requirements could not be parsed: the game reads '5, -17' as 5");
+        QTest::newRow("no blank after a code")
+            << QByteArray("\t{3}{Hm}{}{1}{gf1028 1}{1}{}")
+            << note("PC line 3: no blank after opcode 'gf' in 'gf1028 1': the game takes its first two letters as "
+                    "the code");
+        QTest::newRow("line nothing leads to")
+            << QByteArray("{3}{Hm}{}{}{}{}{}")
+            << note("NPC line 3: nothing in the file leads here \\(a script may start the conversation here\\)");
+    }
+
+    void checkJudgesDialoguesAsTheGame()
+    {
+        QFETCH(QByteArray, lines);
+        QFETCH(QString, diagnostic);
+        const QString copy = freshCopy(QString::fromLatin1(QTest::currentDataTag()).replace(' ', '_'));
+        QVERIFY(FormatChecks::writeFile(copy + "/data/dlg/bad.dlg",
+                                        "{1}{Hi}{}{}{}{}{}\r\n\t{2}{Yes}{}{1}{}{1}{}\r\n" + lines + "\r\n"));
+        const bool isNote = diagnostic.contains(QLatin1String(": note: "));
+        const Run plain = loreka({"check"}, copy);
+        QCOMPARE(plain.code, isNote ? 0 : 1);
+        const Run withNotes = loreka({"check", "--notes"}, copy);
+        QCOMPARE(withNotes.code, plain.code);
+        const QStringList shown = (isNote ? withNotes : plain).lines().filter(QStringLiteral("bad.dlg"));
+        QCOMPARE(shown.size(), 1);
+        QVERIFY2(QRegularExpression('^' + diagnostic + '$').match(shown.first()).hasMatch(), qPrintable(shown.first()));
+        // Notes never count as problems; the summary counts them apart.
+        QVERIFY2(QRegularExpression(isNote ? "^\\d+ files checked, 0 problems, 2 notes$" : "^\\d+ files checked, 1 problem, 1 note$")
+                     .match(plain.lines().last()).hasMatch(),
+                 qPrintable(plain.out));
     }
 
     void checkLeavesOutIgnoredProblems()
@@ -261,7 +322,7 @@ private slots:
                                         "# kept on purpose\ndata/mes/bad.mes:2\n\ndata/proto/wall_stone.pro\n"));
         const Run run = loreka({"check", copy});
         QCOMPARE(run.code, 0);
-        QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems \\(2 ignored\\)$").match(run.out.trimmed()).hasMatch(),
+        QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems, 1 note \\(2 ignored\\)$").match(run.out.trimmed()).hasMatch(),
                  qPrintable(run.out));
     }
 

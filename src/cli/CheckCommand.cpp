@@ -1,7 +1,6 @@
 #include "CheckCommand.h"
 
 #include "CommandLine.h"
-#include "DialogueChecks.h"
 #include "FileDump.h"
 #include "FileWalker.h"
 #include "ScriptStatement.h"
@@ -9,6 +8,7 @@
 #include "ArtRunLength.h"
 #include "Artfile.h"
 #include "DatArchive.h"
+#include "DialogueCheck.h"
 #include "DialogueFileNew.h"
 #include "FormatRegistry.h"
 #include "GameView.h"
@@ -38,9 +38,10 @@ QString savedBaseDir()
 
 } // namespace
 
-CheckCommand::CheckCommand(QTextCodec* mesCodec)
+CheckCommand::CheckCommand(QTextCodec* mesCodec, bool listNotes)
     : codec(mesCodec)
 {
+    report.showNotes(listNotes);
 }
 
 int CheckCommand::run(const QString& dir)
@@ -153,8 +154,13 @@ void CheckCommand::checkDialogue(const QString& path)
     QFile file(path);
     DialogueFileNew dialogue(&file);
     dialogue.load();
-    for (const DialogueChecks::Problem& problem : DialogueChecks(dialogue).problems())
-        report.error(path, problem.line, problem.message);
+    const DialogueCheck check(dialogue);
+    for (const DialogueCheck::Finding& finding : check.findings()) {
+        if (finding.severity == DialogueCheck::Severity::Error)
+            report.error(path, finding.fileLine, finding.message);
+        else
+            report.note(path, finding.fileLine, finding.message);
+    }
 }
 
 void CheckCommand::checkScript(const QString& path)

@@ -12,12 +12,13 @@ class Script;
 }
 
 // `loreka check [DIR]`: reads every data file below DIR/data with the project's models and reports
-// what they record, plus what only a whole dialogue file shows (lines that answer with a line the
-// file lacks, indices used twice).
+// what they record, dialogues as the game reads them (arcanum::DialogueCheck), and the structural
+// defects of every file with their location.
 class CheckCommand
 {
 public:
-    explicit CheckCommand(QTextCodec* mesCodec);
+    // listNotes: print the notes too (what the game reads although our stricter reading objects).
+    CheckCommand(QTextCodec* mesCodec, bool listNotes);
 
     // An empty dir means the base directory of "qtLoreka.ini", or the working directory.
     int run(const QString& dir);

@@ -19,6 +19,8 @@ CommandLine::CommandLine()
                    QStringLiteral("FORMAT"), QStringLiteral("png"))
     , sheetOption(QStringLiteral("sheet"),
                   QStringLiteral("export: one sprite sheet per palette, images as rows, frames as columns."))
+    , notesOption(QStringLiteral("notes"),
+                  QStringLiteral("check: also list notes, what the game reads although a stricter reading objects."))
     , encodingOption(QStringLiteral("encoding"),
                      QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
                      QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
@@ -26,7 +28,7 @@ CommandLine::CommandLine()
     parser.setApplicationDescription(QStringLiteral(
         "Checks, dumps, round-trips and exports Arcanum game data.\n\n"
         "Commands:\n"
-        "  check [DIR]                   check every data file below DIR/data\n"
+        "  check [DIR] [--notes]         check every data file below DIR/data\n"
         "  dump FILE                     print a file as readable text (or JSON)\n"
         "  roundtrip FILE...             load and save each file, compare the bytes\n"
         "  export FILE.art OUTDIR        write the frames of an art file as images\n"
@@ -37,7 +39,7 @@ CommandLine::CommandLine()
         "Exit status: 0 clean, 1 problems or differences, 2 usage or input/output error."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, encodingOption});
+    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, notesOption, encodingOption});
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export or dat"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
@@ -65,7 +67,7 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
     if (!codec)
         return usageError(QStringLiteral("unknown encoding \"%1\"").arg(parser.value(encodingOption)));
     if (command == QLatin1String("check") && operands.size() <= 1)
-        return CheckCommand(codec).run(operands.value(0));
+        return CheckCommand(codec, parser.isSet(notesOption)).run(operands.value(0));
     if (command == QLatin1String("dump") && operands.size() == 1)
         return DumpCommand(codec, parser.isSet(jsonOption)).run(operands.first());
     if (command == QLatin1String("roundtrip") && !operands.isEmpty())

@@ -28,5 +28,6 @@ private:
     QCommandLineOption paletteOption;
     QCommandLineOption formatOption;
     QCommandLineOption sheetOption;
+    QCommandLineOption notesOption;
     QCommandLineOption encodingOption;
 };

@@ -57,8 +57,10 @@ QJsonObject lineObject(const DialogueFileNew::Line& line, const QString& kind)
 {
     QJsonObject object{{"text", QStringLiteral("%1 line %2: %3").arg(kind).arg(line.index()).arg(line.text())},
                        {"file line", line.sourceLine()}};
-    if (line.errors())
+    if (line.errors() && line.errors()->hasErrors())
         object.insert("errors", QJsonArray::fromStringList(line.errors()->messages));
+    if (line.errors() && !line.errors()->notes.isEmpty())
+        object.insert("notes", QJsonArray::fromStringList(line.errors()->notes));
     return object;
 }
 
