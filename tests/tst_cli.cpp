@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -70,6 +71,11 @@ void truncateBy(const QString& path, qsizetype bytes)
     QVERIFY(FormatChecks::writeFile(path, whole.left(whole.size() - bytes)));
 }
 
+void truncateTo(const QString& path, qsizetype size)
+{
+    QVERIFY(FormatChecks::writeFile(path, FormatChecks::readFile(path).left(size)));
+}
+
 using Plant = std::function<void(const QString& game)>;
 
 // Each defect a modder could make, planted in a copy of the sample game.
@@ -111,6 +117,17 @@ const QHash<QString, Plant>& plants()
              QString error;
              arcanum::DatWriter::write(g + "/arcanum2.dat", {{QStringLiteral("proto\\wall_copy.pro"), proto}}, error);
          }},
+        {"prototype cut to 100 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 100); }},
+        {"prototype cut to 150 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 150); }},
+        {"prototype cut to 250 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 250); }},
+        {"NUL byte in a message file",
+         [](const QString& g) { FormatChecks::writeFile(g + "/data/mes/bad.mes", QByteArray("{1}{ok}\r\n{2}{a\0b}\r\n", 19)); }},
+        {"art saved as a message file",
+         [](const QString& g) { QFile::copy(g + "/data/art/sample_beetle.art", g + "/data/mes/beetle.mes"); }},
+        {"prototype saved as a script",
+         [](const QString& g) { QFile::copy(g + "/data/proto/wall_stone.pro", g + "/data/scr/00009wall.scr"); }},
+        {"dialogue saved as a message file",
+         [](const QString& g) { QFile::copy(g + "/data/dlg/sample_table.dlg", g + "/data/mes/table.mes"); }},
         {"duplicate index",
          [](const QString& g) {
              FormatChecks::writeFile(g + "/data/dlg/bad.dlg",
@@ -239,6 +256,69 @@ private slots:
                                             "on line 2\\)";
     }
 
+    void checkFindsStructuralDefect_data()
+    {
+        QTest::addColumn<QString>("plant");
+        QTest::addColumn<QString>("diagnostic");
+        for (int size : {100, 150, 250})
+            QTest::newRow(qPrintable(QStringLiteral("prototype cut to %1 bytes").arg(size)))
+                << QStringLiteral("prototype cut to %1 bytes").arg(size)
+                << QStringLiteral("data/proto/weapon_sword.pro:offset 0x%1: error: the file ends at byte %2, inside "
+                                  "the data of its item type 5")
+                       .arg(size, 0, 16)
+                       .arg(size);
+        QTest::newRow("NUL byte in a message file")
+            << "NUL byte in a message file" << "data/mes/bad.mes:2: error: a NUL byte at offset 0xe: the game's text ends there";
+        QTest::newRow("art saved as a message file")
+            << "art saved as a message file"
+            << "data/mes/beetle.mes:offset 0x0: error: this is an art file \\(it reads whole as art\\), not a message file";
+        QTest::newRow("prototype saved as a script")
+            << "prototype saved as a script"
+            << "data/scr/00009wall.scr:offset 0x0: error: this is a prototype \\(signature 119 at offset 0\\), not a script";
+        QTest::newRow("dialogue saved as a message file")
+            << "dialogue saved as a message file"
+            << "data/mes/table.mes:offset 0x0: error: this is a dialogue file \\(its first entry has 7 items\\), not a "
+               "message file";
+    }
+
+    void checkFindsStructuralDefect() { checkFindsPlantedDefect(); }
+
+    // Without --encoding a message file that is no valid UTF-8 is read in the game's code page; an
+    // encoding asked for is the one its bytes must be valid in.
+    void checkReadsMessagesInTheChosenEncoding()
+    {
+        const Run run = loreka({"check", "--encoding", "UTF-8", game});
+        QCOMPARE(run.code, 1);
+        const QStringList lines = run.lines();
+        QCOMPARE(lines.size(), 5);
+        for (int line = 1; line <= 4; ++line)
+            QCOMPARE(lines.at(line - 1), QStringLiteral("%1/data/mes/sample_russian.mes:%2: error: bytes that are not "
+                                                        "valid UTF-8").arg(game).arg(line));
+    }
+
+    // Bytes that mean nothing never pass, whatever the name says (the same bytes every run).
+    void randomBytesNeverPass_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"mes/random.mes", "scr/00009random.scr", "art/random.art", "proto/random.pro",
+                                 "art/random.aap", "dlg/random.dlg"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void randomBytesNeverPass()
+    {
+        QFETCH(QString, name);
+        const QString copy = freshCopy(QStringLiteral("random_") + QFileInfo(name).suffix());
+        QRandomGenerator random(18);
+        QByteArray bytes(2000, Qt::Uninitialized);
+        for (char& byte : bytes)
+            byte = char(random.bounded(256));
+        QVERIFY(FormatChecks::writeFile(copy + "/data/" + name, bytes));
+        const Run run = loreka({"check"}, copy);
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.lines().first().startsWith("data/" + name + ':'), qPrintable(run.out));
+    }
+
     void checkFindsPlantedDefect()
     {
         QFETCH(QString, plant);
@@ -248,7 +328,7 @@ private slots:
         const Run run = loreka({"check"}, copy);
         QCOMPARE(run.code, 1);
         const QStringList lines = run.lines();
-        QCOMPARE(lines.size(), 2);
+        QVERIFY2(lines.size() == 2, qPrintable(run.out));
         QVERIFY2(QRegularExpression('^' + diagnostic + '$').match(lines.first()).hasMatch(), qPrintable(run.out));
         QVERIFY2(QRegularExpression("^\\d+ files checked, 1 problem, \\d+ notes?$").match(lines.last()).hasMatch(),
                  qPrintable(lines.last()));

@@ -66,8 +66,12 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
     QTextCodec* codec = mesCodec();
     if (!codec)
         return usageError(QStringLiteral("unknown encoding \"%1\"").arg(parser.value(encodingOption)));
-    if (command == QLatin1String("check") && operands.size() <= 1)
-        return CheckCommand(codec, parser.isSet(notesOption)).run(operands.value(0));
+    if (command == QLatin1String("check") && operands.size() <= 1) {
+        CheckCommand check(codec, parser.isSet(notesOption));
+        if (parser.isSet(encodingOption))
+            check.chooseEncoding();
+        return check.run(operands.value(0));
+    }
     if (command == QLatin1String("dump") && operands.size() == 1)
         return DumpCommand(codec, parser.isSet(jsonOption)).run(operands.first());
     if (command == QLatin1String("roundtrip") && !operands.isEmpty())
