@@ -266,6 +266,10 @@
         <source>line has problems</source>
         <translation>в реплике есть ошибки</translation>
     </message>
+    <message>
+        <source>line has notes (the game reads it)</source>
+        <translation>у строки есть замечания (игра её читает)</translation>
+    </message>
 </context>
 <context>
     <name>DamageBanner</name>
@@ -705,6 +709,10 @@
         <source>Go forward again after going back</source>
         <translation>Снова перейти вперёд после возврата</translation>
     </message>
+    <message>
+        <source>Notes (the game reads this line as it is):</source>
+        <translation>Замечания (игра читает эту строку как есть):</translation>
+    </message>
 </context>
 <context>
     <name>DialogueFile</name>
@@ -779,6 +787,33 @@
     <message>
         <source>Invalid col. id</source>
         <translation>Неверный номер столбца</translation>
+    </message>
+</context>
+<context>
+    <name>DialogueProblemsPanel</name>
+    <message>
+        <source>error</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>замечание</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>File line</source>
+        <translation>Строка файла</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Problems:&lt;/b&gt; %1 error(s), %2 note(s). Notes are what the game reads although a stricter reading objects. Click a row to open its line.</source>
+        <translation>&lt;b&gt;Проблемы:&lt;/b&gt; ошибок: %1, замечаний: %2. Замечания — то, что игра читает, хотя более строгое чтение возражает. Щёлкните строку, чтобы открыть её.</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "ConversationGraph.h"
 
+#include "DialogueCheck.h"
+
 #include <QCoreApplication>
 #include <QHash>
 #include <QQueue>
@@ -36,8 +38,22 @@ ConversationGraph ConversationGraph::build(const arcanum::DialogueFileNew& dialo
     graph.markDuplicates();
     graph.addEdges(dialogue);
     graph.assignLayers();
+    graph.markNotes(dialogue);
     graph.placeLayers();
     return graph;
+}
+
+// A line marked for nothing else but with notes: the game reads it, a stricter reading objects.
+void ConversationGraph::markNotes(const arcanum::DialogueFileNew& dialogue)
+{
+    const arcanum::DialogueCheck check(dialogue);
+    for (Node& node : nodeList) {
+        if (node.kind == Kind::End || node.marks != 0)
+            continue;
+        const auto kind = node.kind == Kind::Pc ? arcanum::DialogueCheck::LineKind::Pc : arcanum::DialogueCheck::LineKind::Npc;
+        if (check.worstOf(kind, node.line) == arcanum::DialogueCheck::Severity::Note)
+            node.marks = Note;
+    }
 }
 
 int ConversationGraph::find(Kind kind, int line) const
@@ -55,7 +71,9 @@ void ConversationGraph::addLines(const arcanum::DialogueFileNew& dialogue)
         node.kind = kind;
         node.line = line.index();
         node.label = firstWords(line.text());
-        node.marks = line.errors() != nullptr ? Problem : 0;
+        // An edited line is written from its fields: what its read text had is gone.
+        const arcanum::DialogueFileNew::LineErrors* errors = line.errors();
+        node.marks = errors && errors->hasErrors() && !line.isEdited() ? Problem : 0;
         nodeList.append(node);
     };
     for (const auto& npc : dialogue.npcLines())

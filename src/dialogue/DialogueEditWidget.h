@@ -1,14 +1,17 @@
 #pragma once
 
+#include "DialogueCheck.h"
 #include "DialogueFileNew.h"
 #include "Page.h"
 
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <memory>
 
 class ConversationView;
+class DialogueProblemsPanel;
 class DialogueDocument;
 class DlgLineEditWidget;
 class QTreeWidget;
@@ -94,6 +97,9 @@ private:
 
     std::unique_ptr<Ui_DialogueEditWidget> ui;
     void refreshGraph();
+    // Judges the file again: the Problems panel and the marks of the trees show the result.
+    void refreshProblems();
+    std::optional<arcanum::DialogueCheck::Severity> severityOf(const arcanum::DialogueFileNew::Line& line, bool pc) const;
 
     // Set while the form has edits not yet applied to its line.
     bool formEdited = false;
@@ -101,4 +107,6 @@ private:
     QWidget* graphWindow = nullptr;
     ConversationView* graph = nullptr;
     OpenLine open;
+    DialogueProblemsPanel* problems = nullptr;
+    std::unique_ptr<arcanum::DialogueCheck> lineCheck;
 };
