@@ -812,8 +812,12 @@
         <translation>Сообщение</translation>
     </message>
     <message>
-        <source>&lt;b&gt;Problems:&lt;/b&gt; %1 error(s), %2 note(s). Notes are what the game reads although a stricter reading objects. Click a row to open its line.</source>
-        <translation>&lt;b&gt;Проблемы:&lt;/b&gt; ошибок: %1, замечаний: %2. Замечания — то, что игра читает, хотя более строгое чтение возражает. Щёлкните строку, чтобы открыть её.</translation>
+        <source>&lt;b&gt;Problems:&lt;/b&gt; %1 error(s), %2 note(s)</source>
+        <translation>&lt;b&gt;Проблемы:&lt;/b&gt; ошибок: %1, замечаний: %2</translation>
+    </message>
+    <message>
+        <source>What loreka check reports for this file. Errors are what the game rejects; notes are what the game reads although a stricter reading objects. Click a row to open its line.</source>
+        <translation>То, что сообщает loreka check об этом файле. Ошибки — то, что игра отвергает; замечания — то, что игра читает, хотя более строгое чтение возражает. Щёлкните строку, чтобы открыть её.</translation>
     </message>
 </context>
 <context>

@@ -78,7 +78,7 @@ QColor ConversationView::colourOf(const ConversationGraph::Node& node)
     if (node.marks & ConversationGraph::Unreached)
         return QColor(0xf5, 0xe5, 0x7a);
     if (node.marks & ConversationGraph::Note)
-        return QColor(0xbf, 0xd8, 0xf2);
+        return QColor(0x9f, 0xe3, 0xe8);
     switch (node.kind) {
     case ConversationGraph::Kind::Npc:
         return QColor(0xc8, 0xdc, 0xf5);

@@ -15,7 +15,7 @@ namespace {
 constexpr int KIND_ROLE = Qt::UserRole;
 constexpr int INDEX_ROLE = Qt::UserRole + 1;
 constexpr int ERROR_ROLE = Qt::UserRole + 2;
-constexpr int LIST_HEIGHT = 120;
+constexpr int LIST_HEIGHT = 92;
 
 } // namespace
 
@@ -35,7 +35,6 @@ DialogueProblemsPanel::DialogueProblemsPanel(QWidget* parent)
     list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     // A strip under the form: the form keeps the room it needs, the list scrolls.
     list->setMaximumHeight(LIST_HEIGHT);
-    summary->setWordWrap(true);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 4, 0, 0);
@@ -72,10 +71,9 @@ void DialogueProblemsPanel::showFindings(const QList<DialogueCheck::Finding>& fi
 void DialogueProblemsPanel::showSummary()
 {
     list->setHeaderLabels({tr("Kind"), tr("File line"), tr("Message")});
-    summary->setText(tr("<b>Problems:</b> %1 error(s), %2 note(s). Notes are what the game reads although a "
-                        "stricter reading objects. Click a row to open its line.")
-                         .arg(errors)
-                         .arg(notes));
+    summary->setText(tr("<b>Problems:</b> %1 error(s), %2 note(s)").arg(errors).arg(notes));
+    summary->setToolTip(tr("What loreka check reports for this file. Errors are what the game rejects; notes are "
+                           "what the game reads although a stricter reading objects. Click a row to open its line."));
 }
 
 void DialogueProblemsPanel::rowClicked(QTreeWidgetItem* item)
