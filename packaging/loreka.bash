@@ -17,7 +17,7 @@ _loreka()
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --encoding' -- "$cur"))
+        COMPREPLY=($(compgen -W '--help --version --json --notes --palette --format --sheet --encoding' -- "$cur"))
         return
     fi
 
