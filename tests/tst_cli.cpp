@@ -570,6 +570,50 @@ private slots:
         QCOMPARE(written, files);
         for (const QString& file : files)
             QCOMPARE(QImage(QDir(out).filePath(file)).size(), size);
+        // It says what it wrote.
+        QCOMPARE(run.out.trimmed(), QStringLiteral("%1 %2 written to %3")
+                                        .arg(files.size())
+                                        .arg(files.size() == 1 ? "file" : "files")
+                                        .arg(QDir(out).absolutePath()));
+    }
+
+    // Members come in the order of the file's fields, message texts without their braces, and an
+    // entry that cannot be read as the line it stands on.
+    void dumpJsonFollowsTheFile_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QStringList>("keys");
+        QTest::addColumn<QStringList>("excerpts");
+        QTest::newRow("PC line") << "order.dlg" << QByteArray("\t{2}{Yes}{1}{5}{gf 1 1}{10}{co}\r\n")
+                                 << QStringList{"index", "text", "gender", "intelligence", "tests", "response line",
+                                                "results", "file line"}
+                                 << QStringList{"\"text\": \"Yes\""};
+        QTest::newRow("message entries")
+            << "order.mes" << QByteArray("{1}{ok} // why\r\n{2}{broken\r\n")
+            << QStringList{"index", "text", "comment", "file line", "index", "text", "file line", "error"}
+            << QStringList{"\"text\": \"ok\"", "\"comment\": \" // why\"", "\"text\": \"{2}{broken\""};
+    }
+
+    void dumpJsonFollowsTheFile()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QStringList, keys);
+        QFETCH(QStringList, excerpts);
+        const QString path = scratch.filePath(file);
+        QVERIFY(FormatChecks::writeFile(path, bytes));
+        const Run run = loreka({"dump", "--json", path});
+        QCOMPARE(run.code, 0);
+        QVERIFY(!QJsonDocument::fromJson(run.out.toUtf8()).isNull());
+        // The keys inside the entry objects (indented three levels), in the order printed.
+        QStringList printed;
+        const QRegularExpression key(QStringLiteral("^            \"([^\"]+)\":"), QRegularExpression::MultilineOption);
+        for (auto it = key.globalMatch(run.out); it.hasNext();)
+            printed << it.next().captured(1);
+        QCOMPARE(printed, keys);
+        for (const QString& excerpt : excerpts)
+            QVERIFY2(run.out.contains(excerpt), qPrintable(run.out));
     }
 };
 

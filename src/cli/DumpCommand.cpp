@@ -2,6 +2,7 @@
 
 #include "CommandLine.h"
 #include "FileDump.h"
+#include "JsonOrder.h"
 #include "JsonText.h"
 
 #include <QFileInfo>
@@ -49,7 +50,7 @@ int DumpCommand::run(const QString& path)
     dump.insert(QStringLiteral("file"), path);
     QTextStream out(stdout);
     if (asJson)
-        out << QJsonDocument(dump).toJson(QJsonDocument::Indented);
+        out << QString::fromUtf8(JsonOrder::toJson(dump)) << '\n';
     else
         JsonText(out).print(dump);
     return CommandLine::Clean;
