@@ -4,6 +4,7 @@
 #include "DlgPcLineEditWidget.h"
 #include "Document.h"
 #include "FormatChecks.h"
+#include "NamedChild.h"
 #include "ScriptedAnswerer.h"
 
 #include <QLabel>
@@ -37,10 +38,7 @@ private:
     template <typename T>
     T* child(const char* name) const
     {
-        T* widget = page->findChild<T*>(QString::fromLatin1(name));
-        if (!widget)
-            qFatal("no child %s", name);
-        return widget;
+        return namedChild<T>(page.get(), name);
     }
 
     QTreeWidget* problems() const { return child<QTreeWidget>("problemsList"); }

@@ -6,7 +6,6 @@
 #include "JsonText.h"
 
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QTextStream>
 
 #include <cstdio>
