@@ -120,6 +120,11 @@ const QHash<QString, Plant>& plants()
         {"prototype cut to 100 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 100); }},
         {"prototype cut to 150 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 150); }},
         {"prototype cut to 250 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 250); }},
+        {"bytes after the last frame",
+         [](const QString& g) {
+             const QString art = g + "/data/art/sample_potion.art";
+             FormatChecks::writeFile(art, FormatChecks::readFile(art) + QByteArray(10, '\0'));
+         }},
         {"NUL byte in a message file",
          [](const QString& g) { FormatChecks::writeFile(g + "/data/mes/bad.mes", QByteArray("{1}{ok}\r\n{2}{a\0b}\r\n", 19)); }},
         {"art saved as a message file",
@@ -267,6 +272,10 @@ private slots:
                                   "the data of its item type 5")
                        .arg(size, 0, 16)
                        .arg(size);
+        QTest::newRow("bytes after the last frame")
+            << "bytes after the last frame"
+            << "data/art/sample_potion.art:offset 0x8a0: error: 10 bytes after the last frame, which ends at byte 2208 "
+               "of 2218";
         QTest::newRow("NUL byte in a message file")
             << "NUL byte in a message file" << "data/mes/bad.mes:2: error: a NUL byte at offset 0xe: the game's text ends there";
         QTest::newRow("art saved as a message file")

@@ -291,6 +291,14 @@ void CheckCommand::checkArt(const QString& path)
         report.errorAt(path, art.loadFailureOffset(), FileDump::artFailure(art));
         return;
     }
+    if (const qsizetype extra = art.trailingBytes().size(); extra > 0) {
+        const qint64 size = QFileInfo(path).size();
+        report.errorAt(path, quint64(size - extra),
+                       QStringLiteral("%1 bytes after the last frame, which ends at byte %2 of %3")
+                           .arg(extra)
+                           .arg(size - extra)
+                           .arg(size));
+    }
     for (unsigned i = 0; i < art.getImageCount(); ++i) {
         for (unsigned f = 0; f < art.getFrameCount(); ++f) {
             const Artfile::Image* frame = art.getImage(i, f);
