@@ -2,9 +2,9 @@
 
 #include <QObject>
 #include <QString>
+#include <QtGlobal>
 
-
-// The child of a page that its form names; a test without it cannot go on, so a missing one ends it.
+// The child of that type and object name; a test that cannot find a control it drives stops at once.
 template <typename T>
 T* namedChild(const QObject* parent, const char* name)
 {
