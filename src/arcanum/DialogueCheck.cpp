@@ -1,5 +1,7 @@
 #include "DialogueCheck.h"
 
+#include "OpcodeWords.h"
+
 #include <QIODevice>
 #include <QTextStream>
 
@@ -76,11 +78,20 @@ void DialogueCheck::addField(const DialogueFileNew::OpcodeField& field, const Di
         add(Severity::Note, line, kind, message);
 }
 
+// A test or result naming a line (a join's lines, …) leads there too.
+void DialogueCheck::addNamedLines(const DialogueFileNew::OpcodeField& field)
+{
+    for (const dlg::TestOrResultData& record : field.records())
+        for (int argument : dlg::OpcodeWords::lineArguments(record.type))
+            reached.insert(argument == 0 ? record.value1 : record.value2);
+}
+
 // An NPC line may go on with any line of the file; zero and below are the game's own codes.
 void DialogueCheck::checkNpcLine(const DialogueFileNew::NPCLine& line)
 {
     addRecorded(line, LineKind::Npc);
     addField(line.results(), line, LineKind::Npc);
+    addNamedLines(line.results());
     const int target = line.responseLine();
     reached.insert(target);
     if (target > 0 && !npcIndices.contains(target) && !pcIndices.contains(target))
@@ -94,6 +105,8 @@ void DialogueCheck::checkPcLine(const DialogueFileNew::PCLine& line)
     addRecorded(line, LineKind::Pc);
     addField(line.tests(), line, LineKind::Pc);
     addField(line.results(), line, LineKind::Pc);
+    addNamedLines(line.tests());
+    addNamedLines(line.results());
     if (line.text().startsWith(QLatin1Char('#')))
         add(Severity::Error, line, LineKind::Pc, QStringLiteral("a response must not start with '#'"));
     const int target = line.responseLine();
@@ -126,8 +139,8 @@ void DialogueCheck::checkDuplicates(const DialogueFileNew& dialogue)
     }
 }
 
-// The first NPC line is where a conversation starts; any other that nothing leads to may be
-// started by a script.
+// The first NPC line is where a conversation starts; any other that no response, NPC line, test or
+// result leads to may be started by a script.
 void DialogueCheck::checkUnreached(const DialogueFileNew& dialogue)
 {
     const DialogueFileNew::NPCLine* first = nullptr;

@@ -48,6 +48,7 @@ private:
     void checkPcLine(const DialogueFileNew::PCLine& line);
     void addRecorded(const DialogueFileNew::Line& line, LineKind kind);
     void addField(const DialogueFileNew::OpcodeField& field, const DialogueFileNew::Line& line, LineKind kind);
+    void addNamedLines(const DialogueFileNew::OpcodeField& field);
     void checkDuplicates(const DialogueFileNew& dialogue);
     void checkUnreached(const DialogueFileNew& dialogue);
     void checkUnread(const DialogueFileNew& dialogue);

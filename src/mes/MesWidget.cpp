@@ -71,6 +71,22 @@ MesDocument* MesWidget::mesDocument() const
     return static_cast<MesDocument*>(document());
 }
 
+bool MesWidget::goToEntry(int number)
+{
+    if (mesDocument() == nullptr)
+        return false;
+    const Mesfile& model = mesDocument()->model();
+    for (int row = 0; row < model.getEntryCount(); ++row) {
+        if (model.getEntryAt(row)->getMesIndex() != number)
+            continue;
+        const QModelIndex text = table->index(row, 1);
+        ui->table->setCurrentIndex(text);
+        ui->table->scrollTo(text, QAbstractItemView::PositionAtCenter);
+        return true;
+    }
+    return false;
+}
+
 const QStringList& MesWidget::encodingList()
 {
     // The game's own code pages first, then every other codec once, by its canonical name (Qt lists

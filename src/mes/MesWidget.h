@@ -31,6 +31,8 @@ public:
 
     MesDocument* mesDocument() const;
     QTextCodec* getCodec() const { return codec; }
+    // Selects the text of the entry with that number and scrolls to it; false when the file has none.
+    bool goToEntry(int number);
 
 protected:
     void showDocument() override;
