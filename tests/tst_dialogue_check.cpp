@@ -87,6 +87,15 @@ private slots:
         QCOMPARE(check.worstOf(Kind::Pc, 2), std::optional<Severity>(Severity::Note));
     }
 
+    // A line a result names (the lines of a join) is led to, as much as a response's line.
+    void linesNamedByResultsAreReached()
+    {
+        const DialogueCheck check(read("{1}{Hi}{}{}{}{}{}\r\n\t{2}{Join}{}{1}{}{0}{jo 8 9}\r\n{8}{Joined}{}{}{}{}{}\r\n"
+                                       "{10}{Alone}{}{}{}{}{}\r\n"));
+        QCOMPARE(check.worstOf(Kind::Npc, 8), std::nullopt);
+        QCOMPARE(check.worstOf(Kind::Npc, 10), std::optional<Severity>(Severity::Note));
+    }
+
     void unreadRestIsAnError()
     {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Index could not be parsed")));
