@@ -684,11 +684,13 @@ private slots:
         const QString dir = scratch.filePath(QStringLiteral("art_export_") + QTest::currentDataTag());
         Run run = loreka(QStringList{"art", "export", original, dir} + options);
         QCOMPARE(run.code, 0);
+        QCOMPARE(run.out.trimmed(), "art folder written to " + QDir(dir).absolutePath());
         QCOMPARE(QDir(dir).entryList({"*.png"}, QDir::Files).size(), pngs);
         QCOMPARE(QDir(dir).entryList({"*.json"}, QDir::Files).size(), 1);
         const QString back = dir + ".art";
         run = loreka({"art", "import", dir, back});
         QCOMPARE(run.code, 0);
+        QVERIFY2(run.out.startsWith(back + " written: "), qPrintable(run.out));
         QCOMPARE(FormatChecks::readFile(back), FormatChecks::readFile(original));
     }
 
@@ -722,6 +724,7 @@ private slots:
         Run run = loreka({"art", "from-images", frames.at(0), frames.at(2), dir + "/icons.art", "--fps", "7",
                           "--hotspot", "4,-1", "--action", "1"});
         QCOMPARE(run.code, 0);
+        QCOMPARE(run.out.trimmed(), dir + "/icons.art written: 2 images of 1 frame");
         run = loreka({"art", "info", dir + "/icons.art"});
         QCOMPARE(run.lines().mid(0, 4),
                  (QStringList{dir + "/icons.art: 2 images of 1 frame, 1 palette", "frame rate: 7 frames per second",
