@@ -4,7 +4,10 @@
 #include "Artfile.h"
 #include "DatArchive.h"
 #include "DatWriter.h"
+#include "DialogueCheck.h"
 #include "DialogueFile.h"
+#include "DialogueFileNew.h"
+#include "FileSignature.h"
 #include "FormatRegistry.h"
 #include "Mesfile.h"
 #include "Script.h"
@@ -135,6 +138,8 @@ int roundTripFormat(const char* name, const std::uint8_t* data, std::size_t size
     // The script reader takes its number from the file name.
     const QString path = QStringLiteral("00001fuzz.") + format->name;
     const QByteArray input = QByteArray::fromRawData(reinterpret_cast<const char*>(data), int(size));
+    // What `loreka check` reads besides the model: the signature of the content.
+    arcanum::FileSignature::sniff(input, format->kind);
     QByteArray first;
     QByteArray second;
     QString error;
@@ -179,6 +184,12 @@ int roundTripDialogueTable(const std::uint8_t* data, std::size_t size)
 
 int roundTripDialogue(const std::uint8_t* data, std::size_t size)
 {
+    arcanum::DialogueFileNew dialogue;
+    dialogue.readBytes(QByteArray::fromRawData(reinterpret_cast<const char*>(data), int(size)));
+    const arcanum::DialogueCheck check(dialogue);
+    if (check.count(arcanum::DialogueCheck::Severity::Error) + check.count(arcanum::DialogueCheck::Severity::Note)
+        != check.findings().size())
+        return 1;
     return roundTripFormat("dlg", data, size, cp1251());
 }
 

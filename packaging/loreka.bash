@@ -29,7 +29,7 @@ _loreka()
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --output --encoding --from --dither --fps --action --hotspot --regex --case --number --as' -- "$cur"))
+        COMPREPLY=($(compgen -W '--help --version --json --notes --palette --format --sheet --output --encoding --from --dither --fps --action --hotspot --regex --case --number --as' -- "$cur"))
         return
     fi
 

@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -70,6 +71,11 @@ void truncateBy(const QString& path, qsizetype bytes)
     QVERIFY(FormatChecks::writeFile(path, whole.left(whole.size() - bytes)));
 }
 
+void truncateTo(const QString& path, qsizetype size)
+{
+    QVERIFY(FormatChecks::writeFile(path, FormatChecks::readFile(path).left(size)));
+}
+
 using Plant = std::function<void(const QString& game)>;
 
 // Each defect a modder could make, planted in a copy of the sample game.
@@ -111,6 +117,22 @@ const QHash<QString, Plant>& plants()
              QString error;
              arcanum::DatWriter::write(g + "/arcanum2.dat", {{QStringLiteral("proto\\wall_copy.pro"), proto}}, error);
          }},
+        {"prototype cut to 100 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 100); }},
+        {"prototype cut to 150 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 150); }},
+        {"prototype cut to 250 bytes", [](const QString& g) { truncateTo(g + "/data/proto/weapon_sword.pro", 250); }},
+        {"bytes after the last frame",
+         [](const QString& g) {
+             const QString art = g + "/data/art/sample_potion.art";
+             FormatChecks::writeFile(art, FormatChecks::readFile(art) + QByteArray(10, '\0'));
+         }},
+        {"NUL byte in a message file",
+         [](const QString& g) { FormatChecks::writeFile(g + "/data/mes/bad.mes", QByteArray("{1}{ok}\r\n{2}{a\0b}\r\n", 19)); }},
+        {"art saved as a message file",
+         [](const QString& g) { QFile::copy(g + "/data/art/sample_beetle.art", g + "/data/mes/beetle.mes"); }},
+        {"prototype saved as a script",
+         [](const QString& g) { QFile::copy(g + "/data/proto/wall_stone.pro", g + "/data/scr/00009wall.scr"); }},
+        {"dialogue saved as a message file",
+         [](const QString& g) { QFile::copy(g + "/data/dlg/sample_table.dlg", g + "/data/mes/table.mes"); }},
         {"duplicate index",
          [](const QString& g) {
              FormatChecks::writeFile(g + "/data/dlg/bad.dlg",
@@ -194,7 +216,8 @@ private slots:
         for (const Run& run : {loreka({"check"}, game), loreka({"check", game})}) {
             QCOMPARE(run.code, 0);
             QCOMPARE(run.lines().size(), 1);
-            QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems$").match(run.out.trimmed()).hasMatch(),
+            // The Russian greeting is a line nothing leads to: a note, not a problem.
+            QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems, 1 note$").match(run.out.trimmed()).hasMatch(),
                      qPrintable(run.out));
         }
     }
@@ -239,7 +262,75 @@ private slots:
             << "archived wrong signature"
             << "arcanum2.dat/proto/wall_copy.pro:offset 0x0: error: wrong signature 1, expected 119";
         QTest::newRow("duplicate index") << "duplicate index"
-                                         << "data/dlg/bad.dlg:3: error: line index 2 is used again \\(first on line 2\\)";
+                                         << "data/dlg/bad.dlg:3: error: PC line 2: line number 2 is used again \\(first "
+                                            "on line 2\\)";
+    }
+
+    void checkFindsStructuralDefect_data()
+    {
+        QTest::addColumn<QString>("plant");
+        QTest::addColumn<QString>("diagnostic");
+        for (int size : {100, 150, 250})
+            QTest::newRow(qPrintable(QStringLiteral("prototype cut to %1 bytes").arg(size)))
+                << QStringLiteral("prototype cut to %1 bytes").arg(size)
+                << QStringLiteral("data/proto/weapon_sword.pro:offset 0x%1: error: the file ends at byte %2, inside "
+                                  "the data of its item type 5")
+                       .arg(size, 0, 16)
+                       .arg(size);
+        QTest::newRow("bytes after the last frame")
+            << "bytes after the last frame"
+            << "data/art/sample_potion.art:offset 0x8a0: error: 10 bytes after the last frame, which ends at byte 2208 "
+               "of 2218";
+        QTest::newRow("NUL byte in a message file")
+            << "NUL byte in a message file" << "data/mes/bad.mes:2: error: a NUL byte at offset 0xe: the game's text ends there";
+        QTest::newRow("art saved as a message file")
+            << "art saved as a message file"
+            << "data/mes/beetle.mes:offset 0x0: error: this is an art file \\(it reads whole as art\\), not a message file";
+        QTest::newRow("prototype saved as a script")
+            << "prototype saved as a script"
+            << "data/scr/00009wall.scr:offset 0x0: error: this is a prototype \\(signature 119 at offset 0\\), not a script";
+        QTest::newRow("dialogue saved as a message file")
+            << "dialogue saved as a message file"
+            << "data/mes/table.mes:offset 0x0: error: this is a dialogue file \\(its first entry has 7 items\\), not a "
+               "message file";
+    }
+
+    void checkFindsStructuralDefect() { checkFindsPlantedDefect(); }
+
+    // Without --encoding a message file that is no valid UTF-8 is read in the game's code page; an
+    // encoding asked for is the one its bytes must be valid in.
+    void checkReadsMessagesInTheChosenEncoding()
+    {
+        const Run run = loreka({"check", "--encoding", "UTF-8", game});
+        QCOMPARE(run.code, 1);
+        const QStringList lines = run.lines();
+        QCOMPARE(lines.size(), 5);
+        for (int line = 1; line <= 4; ++line)
+            QCOMPARE(lines.at(line - 1), QStringLiteral("%1/data/mes/sample_russian.mes:%2: error: bytes that are not "
+                                                        "valid UTF-8").arg(game).arg(line));
+    }
+
+    // Bytes that mean nothing never pass, whatever the name says (the same bytes every run).
+    void randomBytesNeverPass_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"mes/random.mes", "scr/00009random.scr", "art/random.art", "proto/random.pro",
+                                 "art/random.aap", "dlg/random.dlg"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void randomBytesNeverPass()
+    {
+        QFETCH(QString, name);
+        const QString copy = freshCopy(QStringLiteral("random_") + QFileInfo(name).suffix());
+        QRandomGenerator random(18);
+        QByteArray bytes(2000, Qt::Uninitialized);
+        for (char& byte : bytes)
+            byte = char(random.bounded(256));
+        QVERIFY(FormatChecks::writeFile(copy + "/data/" + name, bytes));
+        const Run run = loreka({"check"}, copy);
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.lines().first().startsWith("data/" + name + ':'), qPrintable(run.out));
     }
 
     void checkFindsPlantedDefect()
@@ -251,10 +342,69 @@ private slots:
         const Run run = loreka({"check"}, copy);
         QCOMPARE(run.code, 1);
         const QStringList lines = run.lines();
-        QCOMPARE(lines.size(), 2);
+        QVERIFY2(lines.size() == 2, qPrintable(run.out));
         QVERIFY2(QRegularExpression('^' + diagnostic + '$').match(lines.first()).hasMatch(), qPrintable(run.out));
-        QVERIFY2(QRegularExpression("^\\d+ files checked, 1 problem$").match(lines.last()).hasMatch(),
+        QVERIFY2(QRegularExpression("^\\d+ files checked, 1 problem, \\d+ notes?$").match(lines.last()).hasMatch(),
                  qPrintable(lines.last()));
+    }
+
+    // Dialogue lines as the game reads them: each planted line is an error with its file line, or a
+    // form the game reads that only --notes lists. The lines sit after a greeting (line 1) whose
+    // response 2 leads back to it.
+    void checkJudgesDialoguesAsTheGame_data()
+    {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<QString>("diagnostic");
+        const auto error = [](const QString& message) { return QStringLiteral("data/dlg/bad.dlg:3: error: ") + message; };
+        const auto note = [](const QString& message) { return QStringLiteral("data/dlg/bad.dlg:3: note: ") + message; };
+        QTest::newRow("response to a PC response")
+            << QByteArray("\t{3}{Hm}{}{1}{}{2}{}") << error("PC line 3: response line 2 is a PC response, not an NPC line");
+        QTest::newRow("response to a missing line")
+            << QByteArray("\t{3}{Hm}{}{1}{}{7}{}") << error("PC line 3: response line 7 does not exist");
+        QTest::newRow("intelligence without a number")
+            << QByteArray("\t{3}{Hm}{}{high}{}{1}{}")
+            << error("PC line 3: intelligence 'high' has no number: the game stops reading the file here");
+        QTest::newRow("# opening a response")
+            << QByteArray("\t{3}{#Hm}{}{1}{}{1}{}") << error("PC line 3: a response must not start with '#'");
+        QTest::newRow("unknown opcode")
+            << QByteArray("\t{3}{Hm}{}{1}{zz 1}{1}{}") << error("PC line 3: opcode 'zz' is unknown");
+        QTest::newRow("file breaks off inside an entry")
+            << QByteArray("\t{3}{Hm}{}{1") << error("the file breaks off inside an entry \\(3 of its 7 items\\); it and "
+                                                   "the rest of the file are kept as text");
+        QTest::newRow("empty response")
+            << QByteArray("\t{3}{Hm}{}{1}{}{}{}")
+            << note("PC line 3: Response line is empty: the game reads it as 0, the end of the conversation");
+        QTest::newRow("intelligence with more after its number")
+            << QByteArray("\t{3}{Hm}{}{5, -17}{}{1}{}")
+            << note("PC line 3: Intelligence requirements could not be parsed: the game reads '5, -17' as 5");
+        QTest::newRow("no blank after a code")
+            << QByteArray("\t{3}{Hm}{}{1}{gf1028 1}{1}{}")
+            << note("PC line 3: no blank after opcode 'gf' in 'gf1028 1': the game takes its first two letters as "
+                    "the code");
+        QTest::newRow("line nothing leads to")
+            << QByteArray("{3}{Hm}{}{}{}{}{}")
+            << note("NPC line 3: nothing in the file leads here \\(a script may start the conversation here\\)");
+    }
+
+    void checkJudgesDialoguesAsTheGame()
+    {
+        QFETCH(QByteArray, lines);
+        QFETCH(QString, diagnostic);
+        const QString copy = freshCopy(QString::fromLatin1(QTest::currentDataTag()).replace(' ', '_'));
+        QVERIFY(FormatChecks::writeFile(copy + "/data/dlg/bad.dlg",
+                                        "{1}{Hi}{}{}{}{}{}\r\n\t{2}{Yes}{}{1}{}{1}{}\r\n" + lines + "\r\n"));
+        const bool isNote = diagnostic.contains(QLatin1String(": note: "));
+        const Run plain = loreka({"check"}, copy);
+        QCOMPARE(plain.code, isNote ? 0 : 1);
+        const Run withNotes = loreka({"check", "--notes"}, copy);
+        QCOMPARE(withNotes.code, plain.code);
+        const QStringList shown = (isNote ? withNotes : plain).lines().filter(QStringLiteral("bad.dlg"));
+        QCOMPARE(shown.size(), 1);
+        QVERIFY2(QRegularExpression('^' + diagnostic + '$').match(shown.first()).hasMatch(), qPrintable(shown.first()));
+        // Notes never count as problems; the summary counts them apart.
+        QVERIFY2(QRegularExpression(isNote ? "^\\d+ files checked, 0 problems, 2 notes$" : "^\\d+ files checked, 1 problem, 1 note$")
+                     .match(plain.lines().last()).hasMatch(),
+                 qPrintable(plain.out));
     }
 
     void checkLeavesOutIgnoredProblems()
@@ -266,7 +416,7 @@ private slots:
                                         "# kept on purpose\ndata/mes/bad.mes:2\n\ndata/proto/wall_stone.pro\n"));
         const Run run = loreka({"check", copy});
         QCOMPARE(run.code, 0);
-        QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems \\(2 ignored\\)$").match(run.out.trimmed()).hasMatch(),
+        QVERIFY2(QRegularExpression("^\\d+ files checked, 0 problems, 1 note \\(2 ignored\\)$").match(run.out.trimmed()).hasMatch(),
                  qPrintable(run.out));
     }
 
@@ -527,6 +677,50 @@ private slots:
         QCOMPARE(written, files);
         for (const QString& file : files)
             QCOMPARE(QImage(QDir(out).filePath(file)).size(), size);
+        // It says what it wrote.
+        QCOMPARE(run.out.trimmed(), QStringLiteral("%1 %2 written to %3")
+                                        .arg(files.size())
+                                        .arg(files.size() == 1 ? "file" : "files")
+                                        .arg(QDir(out).absolutePath()));
+    }
+
+    // Members come in the order of the file's fields, message texts without their braces, and an
+    // entry that cannot be read as the line it stands on.
+    void dumpJsonFollowsTheFile_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QStringList>("keys");
+        QTest::addColumn<QStringList>("excerpts");
+        QTest::newRow("PC line") << "order.dlg" << QByteArray("\t{2}{Yes}{1}{5}{gf 1 1}{10}{co}\r\n")
+                                 << QStringList{"index", "text", "gender", "intelligence", "tests", "response line",
+                                                "results", "file line"}
+                                 << QStringList{"\"text\": \"Yes\""};
+        QTest::newRow("message entries")
+            << "order.mes" << QByteArray("{1}{ok} // why\r\n{2}{broken\r\n")
+            << QStringList{"index", "text", "comment", "file line", "index", "text", "file line", "error"}
+            << QStringList{"\"text\": \"ok\"", "\"comment\": \" // why\"", "\"text\": \"{2}{broken\""};
+    }
+
+    void dumpJsonFollowsTheFile()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QStringList, keys);
+        QFETCH(QStringList, excerpts);
+        const QString path = scratch.filePath(file);
+        QVERIFY(FormatChecks::writeFile(path, bytes));
+        const Run run = loreka({"dump", "--json", path});
+        QCOMPARE(run.code, 0);
+        QVERIFY(!QJsonDocument::fromJson(run.out.toUtf8()).isNull());
+        // The keys inside the entry objects (indented three levels), in the order printed.
+        QStringList printed;
+        const QRegularExpression key(QStringLiteral("^            \"([^\"]+)\":"), QRegularExpression::MultilineOption);
+        for (auto it = key.globalMatch(run.out); it.hasNext();)
+            printed << it.next().captured(1);
+        QCOMPARE(printed, keys);
+        for (const QString& excerpt : excerpts)
+            QVERIFY2(run.out.contains(excerpt), qPrintable(run.out));
     }
 
     void artExportImportIsLossless_data()
@@ -548,11 +742,13 @@ private slots:
         const QString dir = scratch.filePath(QStringLiteral("art_export_") + QTest::currentDataTag());
         Run run = loreka(QStringList{"art", "export", original, dir} + options);
         QCOMPARE(run.code, 0);
+        QCOMPARE(run.out.trimmed(), "art folder written to " + QDir(dir).absolutePath());
         QCOMPARE(QDir(dir).entryList({"*.png"}, QDir::Files).size(), pngs);
         QCOMPARE(QDir(dir).entryList({"*.json"}, QDir::Files).size(), 1);
         const QString back = dir + ".art";
         run = loreka({"art", "import", dir, back});
         QCOMPARE(run.code, 0);
+        QVERIFY2(run.out.startsWith(back + " written: "), qPrintable(run.out));
         QCOMPARE(FormatChecks::readFile(back), FormatChecks::readFile(original));
     }
 
@@ -586,6 +782,7 @@ private slots:
         Run run = loreka({"art", "from-images", frames.at(0), frames.at(2), dir + "/icons.art", "--fps", "7",
                           "--hotspot", "4,-1", "--action", "1"});
         QCOMPARE(run.code, 0);
+        QCOMPARE(run.out.trimmed(), dir + "/icons.art written: 2 images of 1 frame");
         run = loreka({"art", "info", dir + "/icons.art"});
         QCOMPARE(run.lines().mid(0, 4),
                  (QStringList{dir + "/icons.art: 2 images of 1 frame, 1 palette", "frame rate: 7 frames per second",

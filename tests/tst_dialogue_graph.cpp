@@ -75,6 +75,20 @@ private slots:
         QCOMPARE(graph.nodes().at(node).layer, layer);
     }
 
+    // Lines the game reads with only a note (an empty response, no blank after a code) are no problem.
+    void noteOnlyLinesAreMarkedAsNotes()
+    {
+        const Graph graph = Graph::build(dialogueOf(QStringLiteral("{1}{Hi}{}{}{}{}{}\n"
+                                                                   "{2}{Bye.}{}{1}{}{}{}\n"
+                                                                   "{3}{Pay.}{}{1}{}{0}{$$5}\n"
+                                                                   "{4}{Odd.}{}{1}{zz 1}{0}{}\n")));
+        QCOMPARE(graph.nodes().at(graph.find(Graph::Kind::Pc, 2)).marks, int(Graph::Note));
+        QCOMPARE(graph.nodes().at(graph.find(Graph::Kind::Pc, 3)).marks, int(Graph::Note));
+        QCOMPARE(graph.nodes().at(graph.find(Graph::Kind::Pc, 4)).marks, int(Graph::Problem));
+        QVERIFY(ConversationView::colourOf(graph.nodes().at(graph.find(Graph::Kind::Pc, 2)))
+                != ConversationView::colourOf(graph.nodes().at(graph.find(Graph::Kind::Pc, 4))));
+    }
+
     void flowMarks_data()
     {
         QTest::addColumn<int>("kind");

@@ -1,5 +1,6 @@
 // Reading dialogue files: entries, the two kinds of lines, every recorded problem, and damaged input.
 #include "DialogueFileNew.h"
+#include "GameNumber.h"
 
 #include "FormatChecks.h"
 
@@ -201,7 +202,8 @@ private slots:
             QCOMPARE(describe(line.tests().records()), tests);
             QCOMPARE(line.responseLine(), response);
             QCOMPARE(describe(line.results().records()), results);
-            QVERIFY(!line.errors());
+            // "$$-20" is read as the game reads it, with a note.
+            QVERIFY(!line.errors() || !line.errors()->hasErrors());
         }
     }
 
@@ -210,33 +212,44 @@ private slots:
         QTest::addColumn<bool>("npc");
         QTest::addColumn<QStringList>("items");
         QTest::addColumn<QStringList>("messages");
+        QTest::addColumn<QStringList>("notes");
         const QString wrongCount = QStringLiteral("Number of items on this line doesn't match the normal number of items");
-        QTest::newRow("PC: too few items") << false << QStringList{"a", "", "1", "", "2"} << QStringList{wrongCount};
+        const QString stops = QStringLiteral(": the game stops reading the file here");
+        QTest::newRow("PC: too few items") << false << QStringList{"a", "", "1", "", "2"} << QStringList{wrongCount}
+                                           << QStringList();
         QTest::newRow("NPC: too many items")
-            << true << QStringList{"a", "", "", "", "", "", ""} << QStringList{wrongCount};
+            << true << QStringList{"a", "", "", "", "", "", ""} << QStringList{wrongCount} << QStringList();
         QTest::newRow("empty intelligence")
-            << false << QStringList{"a", "", " ", "", "2", ""} << QStringList{"Intelligence item must not be empty"};
-        QTest::newRow("intelligence not a number")
-            << false << QStringList{"a", "", "5a", "", "2", ""}
-            << QStringList{"Intelligence requirements could not be parsed"};
+            << false << QStringList{"a", "", " ", "", "2", ""} << QStringList{"intelligence is empty" + stops}
+            << QStringList();
+        QTest::newRow("intelligence without a digit")
+            << false << QStringList{"a", "", " x5", "", "2", ""} << QStringList{"intelligence 'x5' has no number" + stops}
+            << QStringList();
+        QTest::newRow("intelligence with more after its number")
+            << false << QStringList{"a", "", "5, -17", "", "2", ""} << QStringList()
+            << QStringList{"Intelligence requirements could not be parsed: the game reads '5, -17' as 5"};
         QTest::newRow("empty response line")
-            << false << QStringList{"a", "", "5", "", "", ""} << QStringList{"Response line must not be empty"};
+            << false << QStringList{"a", "", "5", "", "", ""} << QStringList()
+            << QStringList{"Response line is empty: the game reads it as 0, the end of the conversation"};
         QTest::newRow("response line not a number")
-            << false << QStringList{"a", "", "5", "", "x", ""} << QStringList{"Response line could not be parsed"};
+            << false << QStringList{"a", "", "5", "", "x", ""} << QStringList()
+            << QStringList{"Response line could not be parsed: the game reads 'x' as 0"};
         QTest::newRow("NPC with intelligence")
             << true << QStringList{"a", "", "5", "", "", ""}
-            << QStringList{"{I} is not empty (3rd item) -> no valid NPC line"};
+            << QStringList{"{I} is not empty (3rd item) -> no valid NPC line"} << QStringList();
         QTest::newRow("NPC response line not a number")
-            << true << QStringList{"a", "", "", "", "x", ""}
-            << QStringList{"{R} (5th item) no valid number (but not empty)"};
+            << true << QStringList{"a", "", "", "", "12x", ""} << QStringList()
+            << QStringList{"Response line could not be parsed: the game reads '12x' as 12"};
         QTest::newRow("unknown test") << false << QStringList{"a", "", "5", "zz 1", "2", ""}
-                                      << QStringList{"opcode 'zz' is unknown"};
+                                      << QStringList{"opcode 'zz' is unknown"} << QStringList();
         QTest::newRow("test result only for the player")
-            << true << QStringList{"a", "", "", "", "", "jo 1 2"} << QStringList{"opcode 'jo' is unknown"};
+            << true << QStringList{"a", "", "", "", "", "jo 1 2"} << QStringList{"opcode 'jo' is unknown"}
+            << QStringList();
         QTest::newRow("problems in reading order")
-            << false << QStringList{"a", "", "", "gf 12", "x", "$$ y"}
-            << QStringList{"Intelligence item must not be empty", "Argument 2 of opcode gf could not be parsed",
-                           "Response line could not be parsed", "Argument 1 of opcode $$ could not be parsed"};
+            << false << QStringList{"a", "", "", "gf 12", "x", "$$ y"} << QStringList{"intelligence is empty" + stops}
+            << QStringList{"Argument 2 of opcode gf could not be parsed: the game reads '' as 0",
+                           "Response line could not be parsed: the game reads 'x' as 0",
+                           "Argument 1 of opcode $$ could not be parsed: the game reads 'y' as 0"};
     }
 
     void lineProblems()
@@ -244,6 +257,7 @@ private slots:
         QFETCH(bool, npc);
         QFETCH(QStringList, items);
         QFETCH(QStringList, messages);
+        QFETCH(QStringList, notes);
         for (const QString& message : messages)
             QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("Error: ") + message + QLatin1Char(' ')
                                                           + rebuilt(7, items) + QStringLiteral(" // c")));
@@ -254,16 +268,50 @@ private slots:
             line = new DialogueFileNew::PCLine(7, items, QStringLiteral(" // c"));
         QVERIFY(line->errors());
         QCOMPARE(line->errors()->messages, messages);
+        QCOMPARE(line->errors()->notes, notes);
+        QCOMPARE(line->errors()->hasErrors(), !messages.isEmpty());
+        // Notes too keep the entry as read, so an unedited line is written back byte for byte.
         QCOMPARE(line->errors()->rawText, rebuilt(7, items) + QStringLiteral(" // c"));
+        QCOMPARE(line->getCompleteLineText(), rebuilt(7, items) + QStringLiteral(" // c"));
         QVERIFY(!line->isEdited());
+    }
+
+    // What the game reads from a number field: blanks and a sign, then digits up to the first other character.
+    void gameNumbers_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("digits");
+        QTest::addColumn<bool>("exact");
+        QTest::newRow("plain") << "17" << 17 << true << true;
+        QTest::newRow("blanks and sign") << "  -17 " << -17 << true << true;
+        QTest::newRow("plus") << "+5" << 5 << true << true;
+        QTest::newRow("more after the digits") << "5, -17" << 5 << true << false;
+        QTest::newRow("digits then letters") << "12x" << 12 << true << false;
+        QTest::newRow("empty") << "" << 0 << false << false;
+        QTest::newRow("sign only") << " - " << 0 << false << false;
+        QTest::newRow("letters first") << "x5" << 0 << false << false;
+        QTest::newRow("too large saturates") << "99999999999" << 2147483647 << true << false;
+        QTest::newRow("too small saturates") << "-99999999999" << int(-2147483647 - 1) << true << false;
+        QTest::newRow("smallest int") << "-2147483648" << int(-2147483647 - 1) << true << true;
+    }
+
+    void gameNumbers()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, value);
+        QFETCH(bool, digits);
+        QFETCH(bool, exact);
+        const arcanum::GameNumber number = arcanum::GameNumber::read(text);
+        QCOMPARE(number.value(), value);
+        QCOMPARE(number.hasDigits(), digits);
+        QCOMPARE(number.isExact(), exact);
     }
 
     void defectiveLineKeepsItsEntryAsRead()
     {
         const QString entry = QStringLiteral("{5} {Hm}{1}{4}{zz 1,  $$ 5}{x}{co}  // odd");
         QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("Error: opcode 'zz' is unknown ") + entry));
-        QTest::ignoreMessage(QtWarningMsg,
-                             qPrintable(QStringLiteral("Error: Response line could not be parsed ") + entry));
         const DialogueFileNew dialogue = parse(QStringLiteral("\t") + entry + QStringLiteral("\r\n"));
         QCOMPARE(dialogue.pcLines().size(), 1);
         const DialogueFileNew::PCLine& line = *dialogue.pcLines().first();
@@ -282,30 +330,38 @@ private slots:
         QTest::addColumn<const TestOrResultTypes*>("types");
         QTest::addColumn<QString>("records");
         QTest::addColumn<QStringList>("errors");
+        QTest::addColumn<QStringList>("notes");
         static const TestOrResultType threeArguments(QStringLiteral("xx"), 3, QString(), nullptr);
         static const TestOrResultTypes odd{&threeArguments};
         const TestOrResultTypes* pc = &result::ALL_PC_RESULTS;
-        QTest::newRow("empty") << "  " << pc << "" << QStringList();
-        QTest::newRow("empty pieces dropped") << ",co,,fp," << pc << "co, fp" << QStringList();
-        QTest::newRow("blank piece") << "co, ,fp" << pc << "co, fp" << QStringList{"opcode '' is unknown"};
+        const QString unread = QStringLiteral("Argument %1 of opcode %2 could not be parsed: the game reads '%3' as %4");
+        QTest::newRow("empty") << "  " << pc << "" << QStringList() << QStringList();
+        QTest::newRow("empty pieces dropped") << ",co,,fp," << pc << "co, fp" << QStringList() << QStringList();
+        QTest::newRow("blank piece") << "co, ,fp" << pc << "co, fp" << QStringList{"opcode '' is unknown"}
+                                     << QStringList();
         QTest::newRow("unknown opcode dropped")
-            << "zz 1, co" << pc << "co" << QStringList{"opcode 'zz' is unknown"};
+            << "zz 1, co" << pc << "co" << QStringList{"opcode 'zz' is unknown"} << QStringList();
         QTest::newRow("one argument missing")
-            << "$$" << pc << "" << QStringList{"Argument 1 of opcode $$ could not be parsed"};
+            << "$$" << pc << "$$ 0" << QStringList() << QStringList{unread.arg("1", "$$", "", "0")};
         QTest::newRow("one argument too many")
-            << "$$ 1 2" << pc << "" << QStringList{"Argument 1 of opcode $$ could not be parsed"};
+            << "$$ 1 2" << pc << "$$ 1" << QStringList() << QStringList{unread.arg("1", "$$", "1 2", "1")};
         QTest::newRow("second argument missing")
-            << "gf 12" << pc << "" << QStringList{"Argument 2 of opcode gf could not be parsed"};
+            << "gf 12" << pc << "gf 12 0" << QStringList() << QStringList{unread.arg("2", "gf", "", "0")};
         QTest::newRow("both arguments wrong, as written")
-            << "GF a b" << pc << ""
-            << QStringList{"Argument 1 of opcode GF could not be parsed", "Argument 2 of opcode GF could not be parsed"};
+            << "GF a b" << pc << "gf 0 0" << QStringList()
+            << QStringList{unread.arg("1", "GF", "a", "0"), unread.arg("2", "GF", "b", "0")};
         QTest::newRow("number too large")
-            << "in 99999999999" << pc << "" << QStringList{"Argument 1 of opcode in could not be parsed"};
-        QTest::newRow("arguments of an opcode without any are ignored") << "co 5 x" << pc << "co" << QStringList();
+            << "in 99999999999" << pc << "in 2147483647" << QStringList()
+            << QStringList{unread.arg("1", "in", "99999999999", "2147483647")};
+        QTest::newRow("no blank after the code")
+            << "gf1028 1" << pc << "gf 1028 1" << QStringList()
+            << QStringList{"no blank after opcode 'gf' in 'gf1028 1': the game takes its first two letters as the code"};
+        QTest::newRow("arguments of an opcode without any are ignored")
+            << "co 5 x" << pc << "co" << QStringList() << QStringList();
         QTest::newRow("no types") << "co" << static_cast<const TestOrResultTypes*>(nullptr) << ""
-                                  << QStringList{"ALL_RESULTS == NULL"};
+                                  << QStringList{"ALL_RESULTS == NULL"} << QStringList();
         QTest::newRow("impossible argument count")
-            << "xx 1" << &odd << "" << QStringList{"Error this else should never be reached"};
+            << "xx 1" << &odd << "" << QStringList{"Error this else should never be reached"} << QStringList();
     }
 
     void opcodeFields()
@@ -314,9 +370,11 @@ private slots:
         QFETCH(const TestOrResultTypes*, types);
         QFETCH(QString, records);
         QFETCH(QStringList, errors);
+        QFETCH(QStringList, notes);
         const DialogueFileNew::Line::DialogueResultField field(text, types);
         QCOMPARE(describe(field.records()), records);
         QCOMPARE(field.errors(), errors);
+        QCOMPARE(field.notes(), notes);
         QCOMPARE(field.toString(), text);
     }
 
@@ -414,8 +472,6 @@ private slots:
     void sampleLoadsIntoTheRightLists()
     {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Error: opcode 'zz' is unknown")));
-        QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(QStringLiteral("^Error: Response line could not be parsed")));
         QFile file(SAMPLE);
         DialogueFileNew dialogue(&file);
         QVERIFY(dialogue.load());
@@ -431,8 +487,9 @@ private slots:
         QCOMPARE(describe(dialogue.getPCLine(6)->tests().records()), QStringLiteral("$$ 100, gf 12 1"));
         QCOMPARE(dialogue.getPCLine(22)->trailing(), QStringLiteral(" // starts a fight"));
         QCOMPARE(dialogue.getPCLine(41)->errors()->messages, QStringList(QStringLiteral("opcode 'zz' is unknown")));
-        QCOMPARE(dialogue.getPCLine(42)->errors()->messages,
-                 QStringList(QStringLiteral("Response line could not be parsed")));
+        QCOMPARE(dialogue.getPCLine(42)->errors()->messages, QStringList());
+        QCOMPARE(dialogue.getPCLine(42)->errors()->notes,
+                 QStringList(QStringLiteral("Response line could not be parsed: the game reads 'later' as 0")));
         int defective = 0;
         for (const DialogueFileNew::PCLinePointer& line : dialogue.pcLines())
             defective += line->errors() ? 1 : 0;

@@ -563,6 +563,10 @@
         <source>line has problems</source>
         <translation>в реплике есть ошибки</translation>
     </message>
+    <message>
+        <source>line has notes (the game reads it)</source>
+        <translation>у строки есть замечания (игра её читает)</translation>
+    </message>
 </context>
 <context>
     <name>DamageBanner</name>
@@ -1129,6 +1133,10 @@
         <translation>Снова перейти вперёд после возврата</translation>
     </message>
     <message>
+        <source>Notes (the game reads this line as it is):</source>
+        <translation>Замечания (игра читает эту строку как есть):</translation>
+    </message>
+    <message>
         <source>Add NPC line</source>
         <translation>Добавить реплику NPC</translation>
     </message>
@@ -1266,6 +1274,37 @@
     <message>
         <source>Invalid col. id</source>
         <translation>Неверный номер столбца</translation>
+    </message>
+</context>
+<context>
+    <name>DialogueProblemsPanel</name>
+    <message>
+        <source>error</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>замечание</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>File line</source>
+        <translation>Строка файла</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Problems:&lt;/b&gt; %1 error(s), %2 note(s)</source>
+        <translation>&lt;b&gt;Проблемы:&lt;/b&gt; ошибок: %1, замечаний: %2</translation>
+    </message>
+    <message>
+        <source>What loreka check reports for this file. Errors are what the game rejects; notes are what the game reads although a stricter reading objects. Click a row to open its line.</source>
+        <translation>То, что сообщает loreka check об этом файле. Ошибки — то, что игра отвергает; замечания — то, что игра читает, хотя более строгое чтение возражает. Щёлкните строку, чтобы открыть её.</translation>
     </message>
 </context>
 <context>

@@ -76,6 +76,8 @@ public:
     // The bytes save would write (empty when there are no images).
     QByteArray toBytes() const;
     bool isLoaded() const { return !images.empty(); }
+    // What the file holds after its last frame (kept and written back; no part of the sprite).
+    const QByteArray& trailingBytes() const { return trailer; }
     // Why the last load left the model empty, and the file offset where reading gave up.
     const QString& loadFailure() const { return failure; }
     quint64 loadFailureOffset() const { return failureOffset; }

@@ -51,6 +51,14 @@ bool DatArchive::open(const QString& path, QString& error)
     return readTrailer(error) && readDirectory(error);
 }
 
+bool DatArchive::hasTrailer(const QByteArray& bytes)
+{
+    if (bytes.size() < SHORT_TRAILER)
+        return false;
+    const QByteArray magic = bytes.mid(bytes.size() - SHORT_TRAILER, 4);
+    return (magic == "1TAD" && bytes.size() >= LONG_TRAILER) || magic == " TAD";
+}
+
 bool DatArchive::readTrailer(QString& error)
 {
     const qint64 size = file.size();

@@ -43,6 +43,8 @@ public:
     QStringList verify();
     // Why a name cannot be a file below a folder ("..", an absolute path, a drive letter, a NUL); empty when it can.
     static QString unsafeName(const QString& name);
+    // Whether bytes end in an archive's trailer, the signature of an archive.
+    static bool hasTrailer(const QByteArray& bytes);
 
 private:
     bool readTrailer(QString& error);

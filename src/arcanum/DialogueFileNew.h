@@ -35,11 +35,16 @@ public:
     enum Gender : int { GENDER_EITHER = -1, GENDER_FEMALE = 0, GENDER_MALE = 1 };
 
     // The problems of one line, and the line's entry text as it was read (from its first "{" on).
+    // messages are errors: what the game rejects or cannot read. notes are what only our stricter
+    // reading objects to while the game reads the line (an empty response field, "5, -17" for an
+    // intelligence); a line with either is written back as read until it is edited.
     class LineErrors
     {
     public:
         QStringList messages;
+        QStringList notes;
         QString rawText;
+        bool hasErrors() const { return !messages.isEmpty(); }
     };
 
     // The tests or results of a line: records in file order, the problems met while parsing the text,
@@ -50,6 +55,9 @@ public:
     public:
         const QVector<dlg::TestOrResultData>& records() const { return mRecords; }
         const QStringList& errors() const { return mErrors; }
+        // What the game reads although our stricter reading objects: "tr0 3" (no blank after the code),
+        // an argument with more after its digits.
+        const QStringList& notes() const { return mNotes; }
         bool isEdited() const { return !mReadText.has_value(); }
         // Replaces the records; returns false and keeps the text as read when they are the same.
         bool setRecords(const QVector<dlg::TestOrResultData>& records);
@@ -70,9 +78,11 @@ public:
         void parsePiece(QStringView piece, const dlg::TestOrResultTypes& allowed);
         static QString renamedText(const QString& text, const dlg::TestOrResultTypes& allowed, int from, int to);
         bool parseArguments(QStringView arguments, QStringView code, dlg::TestOrResultData& record);
+        qint32 readArgument(QStringView text, int argument, QStringView code);
 
         QVector<dlg::TestOrResultData> mRecords;
         QStringList mErrors;
+        QStringList mNotes;
         std::optional<QString> mReadText;
     };
 
@@ -109,9 +119,10 @@ public:
         // Whatever followed the entry's seventh "}" on its line (a comment, usually nothing).
         const QString& trailing() const { return mTrailing; }
 
-        // Null while the line has no problem. The messages include those of the tests and results.
+        // Null while the line has no problem or note. They include those of the tests and results.
         const LineErrors* errors() const { return mErrors.get(); }
         void setError(const QString& message, const QStringList& items, const QString& trailing);
+        void setNote(const QString& message, const QStringList& items, const QString& trailing);
 
         bool isEdited() const { return mEdited; }
         // The 1-based line of the file the entry's first "{" stands on; 0 for a line not read from a file.
@@ -128,8 +139,8 @@ public:
         QString joinItems(const QStringList& itemsAfterText) const;
         bool hasAllItems(const QStringList& items, const QString& trailing);
         void recordFieldErrors(const OpcodeField& field, const QStringList& items, const QString& trailing);
-        bool parseRequiredNumber(const QString& item, int& value, const QString& emptyMessage,
-                                 const QString& invalidMessage, const QStringList& items, const QString& trailing);
+        // The number the game reads from an item, with a note when our stricter reading differs.
+        int readNumber(const QString& item, const QString& what, const QStringList& items, const QString& trailing);
         template <typename T>
         void change(T& field, const T& value)
         {
@@ -144,6 +155,8 @@ public:
         bool renameResponse(int& responseLine, int from, int to);
 
     private:
+        LineErrors& problems(const QStringList& items, const QString& trailing);
+
         int mIndex;
         QString mText;
         QString mTrailing;

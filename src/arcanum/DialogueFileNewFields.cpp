@@ -1,22 +1,10 @@
 // The tests and results of dialogue lines: comma-separated opcodes with their arguments.
 #include "DialogueFileNew.h"
 
+#include "GameNumber.h"
 #include "OpcodeWords.h"
 
 namespace arcanum {
-
-namespace {
-
-bool parseNumber(QStringView text, qint32& value)
-{
-    bool ok = false;
-    const int number = text.trimmed().toInt(&ok, 10);
-    if (ok)
-        value = number;
-    return ok;
-}
-
-} // namespace
 
 DialogueFileNew::OpcodeField::OpcodeField(const QString& text, const dlg::TestOrResultTypes* allowed)
     : mReadText(text)
@@ -34,6 +22,7 @@ DialogueFileNew::OpcodeField::OpcodeField(const QString& text, const dlg::TestOr
         parsePiece(piece.trimmed(), *allowed);
 }
 
+// The game takes the first two letters of a piece as its code, blank or not ("tr0 3" is "tr 0 3").
 void DialogueFileNew::OpcodeField::parsePiece(QStringView piece, const dlg::TestOrResultTypes& allowed)
 {
     const QStringView code = piece.left(2);
@@ -42,35 +31,44 @@ void DialogueFileNew::OpcodeField::parsePiece(QStringView piece, const dlg::Test
         mErrors << QStringLiteral("opcode '%1' is unknown").arg(code);
         return;
     }
+    if (piece.size() > 2 && !piece.at(2).isSpace())
+        mNotes << QStringLiteral("no blank after opcode '%1' in '%2': the game takes its first two letters as the code")
+                      .arg(code, piece);
     dlg::TestOrResultData record(type);
     if (parseArguments(piece.mid(2), code, record))
         mRecords << record;
 }
 
-// A piece whose arguments cannot be read is reported and left out of the records; an unedited field
-// still writes it back as it was read.
+// Arguments are read as the game reads them; one it reads differently from us is a note, and an
+// unedited field still writes it back as it was read.
 bool DialogueFileNew::OpcodeField::parseArguments(QStringView arguments, QStringView code,
                                                   dlg::TestOrResultData& record)
 {
-    const auto failed = [this, &code](int argument) {
-        mErrors << QStringLiteral("Argument %1 of opcode %2 could not be parsed").arg(QString::number(argument), code);
-        return false;
-    };
     switch (record.type->argumentCount()) {
     case 0:
         return true;
     case 1:
-        return parseNumber(arguments, record.value1) || failed(1);
+        record.value1 = readArgument(arguments, 1, code);
+        return true;
     case 2: {
         const QList<QStringView> values = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        const bool first = parseNumber(values.value(0), record.value1) || failed(1);
-        const bool second = parseNumber(values.value(1), record.value2) || failed(2);
-        return first && second;
+        record.value1 = readArgument(values.value(0), 1, code);
+        record.value2 = readArgument(values.value(1), 2, code);
+        return true;
     }
     default:
         mErrors << QStringLiteral("Error this else should never be reached");
         return false;
     }
+}
+
+qint32 DialogueFileNew::OpcodeField::readArgument(QStringView text, int argument, QStringView code)
+{
+    const GameNumber number = GameNumber::read(text);
+    if (!number.isExact())
+        mNotes << QStringLiteral("Argument %1 of opcode %2 could not be parsed: the game reads '%3' as %4")
+                      .arg(QString::number(argument), code, text.trimmed(), QString::number(number.value()));
+    return number.value();
 }
 
 bool DialogueFileNew::OpcodeField::setRecords(const QVector<dlg::TestOrResultData>& records)

@@ -1,6 +1,8 @@
 // The lines of a dialogue file: parsed from an entry's items, written back as an entry.
 #include "DialogueFileNew.h"
 
+#include "GameNumber.h"
+
 namespace arcanum {
 
 namespace {
@@ -41,11 +43,10 @@ void DialogueFileNew::Line::setText(const QString& text)
 
 // The entry as read is what an unedited defective line writes back; a line made in code has none,
 // so its entry is rebuilt from the items.
-void DialogueFileNew::Line::setError(const QString& message, const QStringList& items, const QString& trailing)
+DialogueFileNew::LineErrors& DialogueFileNew::Line::problems(const QStringList& items, const QString& trailing)
 {
     if (!mErrors)
         mErrors = std::make_unique<LineErrors>();
-    mErrors->messages << message;
     if (!mReadText.isEmpty()) {
         mErrors->rawText = mReadText;
     } else {
@@ -54,7 +55,19 @@ void DialogueFileNew::Line::setError(const QString& message, const QStringList& 
             mErrors->rawText += braced(item);
         mErrors->rawText += trailing;
     }
-    qWarning("Error: %s %s", qUtf8Printable(message), qUtf8Printable(mErrors->rawText));
+    return *mErrors;
+}
+
+void DialogueFileNew::Line::setError(const QString& message, const QStringList& items, const QString& trailing)
+{
+    LineErrors& recorded = problems(items, trailing);
+    recorded.messages << message;
+    qWarning("Error: %s %s", qUtf8Printable(message), qUtf8Printable(recorded.rawText));
+}
+
+void DialogueFileNew::Line::setNote(const QString& message, const QStringList& items, const QString& trailing)
+{
+    problems(items, trailing).notes << message;
 }
 
 // Sized first and filled in place: a large dialogue is written line by line, item by item.
@@ -78,21 +91,19 @@ void DialogueFileNew::Line::recordFieldErrors(const OpcodeField& field, const QS
 {
     for (const QString& message : field.errors())
         setError(message, items, trailing);
+    for (const QString& message : field.notes())
+        setNote(message, items, trailing);
 }
 
-// Empty and unreadable numbers are different mistakes with different messages.
-bool DialogueFileNew::Line::parseRequiredNumber(const QString& item, int& value, const QString& emptyMessage,
-                                                const QString& invalidMessage, const QStringList& items,
-                                                const QString& trailing)
+int DialogueFileNew::Line::readNumber(const QString& item, const QString& what, const QStringList& items,
+                                      const QString& trailing)
 {
-    const QString text = item.trimmed();
-    bool ok = false;
-    const int number = text.toInt(&ok, 10);
-    if (ok)
-        value = number;
-    else
-        setError(text.isEmpty() ? emptyMessage : invalidMessage, items, trailing);
-    return ok;
+    const GameNumber number = GameNumber::read(item);
+    if (!number.isExact())
+        setNote(QStringLiteral("%1 could not be parsed: the game reads '%2' as %3")
+                    .arg(what, item.trimmed(), QString::number(number.value())),
+                items, trailing);
+    return number.value();
 }
 
 // A line without its six items keeps the defaults of its fields.
@@ -148,12 +159,23 @@ void DialogueFileNew::PCLine::parseItems(const QStringList& items, const QString
         mGender = GENDER_FEMALE;
     else if (gender == QLatin1String("1"))
         mGender = GENDER_MALE;
-    parseRequiredNumber(items.at(2), mIntelligence, QStringLiteral("Intelligence item must not be empty"),
-                        QStringLiteral("Intelligence requirements could not be parsed"), items, trailing);
+    // Without a digit in it the game cannot read the field at all, and stops reading the file there.
+    if (GameNumber::read(items.at(2)).hasDigits())
+        mIntelligence = readNumber(items.at(2), QStringLiteral("Intelligence requirements"), items, trailing);
+    else if (items.at(2).trimmed().isEmpty())
+        setError(QStringLiteral("intelligence is empty: the game stops reading the file here"), items, trailing);
+    else
+        setError(QStringLiteral("intelligence '%1' has no number: the game stops reading the file here")
+                     .arg(items.at(2).trimmed()),
+                 items, trailing);
     mTests = DialogueTestField(items.at(3));
     recordFieldErrors(mTests, items, trailing);
-    parseRequiredNumber(items.at(4), mResponseLine, QStringLiteral("Response line must not be empty"),
-                        QStringLiteral("Response line could not be parsed"), items, trailing);
+    // An empty response reads as 0, the end of the conversation.
+    if (items.at(4).trimmed().isEmpty())
+        setNote(QStringLiteral("Response line is empty: the game reads it as 0, the end of the conversation"), items,
+                trailing);
+    else
+        mResponseLine = readNumber(items.at(4), QStringLiteral("Response line"), items, trailing);
     mResults = PCResultField(items.at(5));
     recordFieldErrors(mResults, items, trailing);
 }
@@ -208,8 +230,7 @@ void DialogueFileNew::NPCLine::parseItems(const QStringList& items, const QStrin
     if (items.at(4).trimmed().isEmpty())
         mResponseLine = -1;
     else
-        parseRequiredNumber(items.at(4), mResponseLine, QString(),
-                            QStringLiteral("{R} (5th item) no valid number (but not empty)"), items, trailing);
+        mResponseLine = readNumber(items.at(4), QStringLiteral("Response line"), items, trailing);
     mResults = NPCResultField(items.at(5));
     recordFieldErrors(mResults, items, trailing);
 }

@@ -50,6 +50,14 @@ private:
     qsizetype pos = 0;
 };
 
+// The field at offset, or 0 when the bytes end before it is whole.
+inline qint32 int32At(const QByteArray& bytes, qsizetype offset)
+{
+    if (offset < 0 || offset > bytes.size() - 4)
+        return 0;
+    return qFromLittleEndian<qint32>(bytes.constData() + offset);
+}
+
 inline void appendInt32(QByteArray& out, qint32 value)
 {
     char bytes[4];

@@ -79,6 +79,7 @@ int ArtCommand::exportFolder(const QString& artPath, const QString& dir)
         return fail(QStringLiteral("%1: has no palette %2").arg(artPath).arg(palette));
     if (!arcanum::ArtFolder::write(art, QFileInfo(artPath).completeBaseName(), dir, {options.sheet, palette}, error))
         return fail(error);
+    QTextStream(stdout) << "art folder written to " << QDir::toNativeSeparators(QDir(dir).absolutePath()) << Qt::endl;
     return CommandLine::Clean;
 }
 
@@ -90,7 +91,7 @@ int ArtCommand::importFolder(const QString& dir, const QString& artPath)
         return fail(error);
     if (!art.save(artPath))
         return fail(QStringLiteral("%1: cannot be written").arg(artPath));
-    return CommandLine::Clean;
+    return written(artPath, art);
 }
 
 int ArtCommand::fromImages(const QStringList& inputs, const QString& artPath)
@@ -133,7 +134,7 @@ int ArtCommand::fromImages(const QStringList& inputs, const QString& artPath)
         return fail(QStringLiteral("%1: %2").arg(artPath, error));
     if (!art.save(artPath))
         return fail(QStringLiteral("%1: cannot be written").arg(artPath));
-    return CommandLine::Clean;
+    return written(artPath, art);
 }
 
 // Files are images of one frame each; folders are directions, their images (by name) the frames.
@@ -190,6 +191,13 @@ int ArtCommand::info(const QString& artPath)
                 << Qt::endl;
         }
     }
+    return CommandLine::Clean;
+}
+
+int ArtCommand::written(const QString& artPath, const Artfile& art)
+{
+    QTextStream(stdout) << artPath << " written: " << art.getImageCount() << " images of " << art.getFrameCount()
+                        << (art.getFrameCount() == 1 ? " frame" : " frames") << Qt::endl;
     return CommandLine::Clean;
 }
 

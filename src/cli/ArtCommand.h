@@ -36,6 +36,8 @@ private:
     int info(const QString& artPath);
     bool readFrames(const QStringList& inputs, std::vector<std::vector<class QImage>>& images);
     int fail(const QString& message);
+    // Says what a command wrote: "PATH written: 8 images of 4 frames".
+    static int written(const QString& artPath, const arcanum::Artfile& art);
     int usage(const QString& message);
 
     Options options;

@@ -1,7 +1,6 @@
 #include "CheckCommand.h"
 
 #include "CommandLine.h"
-#include "DialogueChecks.h"
 #include "FileDump.h"
 #include "FileWalker.h"
 #include "ScriptStatement.h"
@@ -9,17 +8,21 @@
 #include "ArtRunLength.h"
 #include "Artfile.h"
 #include "DatArchive.h"
+#include "DialogueCheck.h"
 #include "DialogueFileNew.h"
+#include "FileSignature.h"
 #include "FormatRegistry.h"
 #include "GameView.h"
 #include "Mesfile.h"
 #include "Proto.h"
 #include "Script.h"
+#include "TextDecoding.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QTextCodec>
 
 #include <QSettings>
 
@@ -38,9 +41,10 @@ QString savedBaseDir()
 
 } // namespace
 
-CheckCommand::CheckCommand(QTextCodec* mesCodec)
+CheckCommand::CheckCommand(QTextCodec* mesCodec, bool listNotes)
     : codec(mesCodec)
 {
+    report.showNotes(listNotes);
 }
 
 int CheckCommand::run(const QString& dir)
@@ -121,19 +125,81 @@ void CheckCommand::checkFile(const QString& path)
         report.ioError(path, QStringLiteral("cannot be read: %1").arg(file.errorString()));
         return;
     }
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    if (suffix == QLatin1String("mes"))
+    const QByteArray bytes = file.readAll();
+    const FileFormat::Kind kind = FormatRegistry::byPath(path)->kind;
+    if (isOtherKind(path, bytes, kind))
+        return;
+    switch (kind) {
+    case FileFormat::Kind::Message:
+        checkText(path, bytes, codecFor(bytes));
         checkMes(path);
-    else if (suffix == QLatin1String("dlg"))
+        break;
+    case FileFormat::Kind::Dialogue:
+        checkText(path, bytes, DialogueFileNew::textCodec());
         checkDialogue(path);
-    else if (suffix == QLatin1String("scr"))
+        break;
+    case FileFormat::Kind::Script:
         checkScript(path);
-    else if (suffix == QLatin1String("art"))
+        break;
+    case FileFormat::Kind::Art:
         checkArt(path);
-    else if (suffix == QLatin1String("pro"))
+        break;
+    case FileFormat::Kind::Prototype:
         checkProto(path);
-    else
+        break;
+    default:
         checkPalette(path);
+    }
+}
+
+// A file of one kind saved under another's extension: its bytes carry the other kind's signature.
+// A palette has none, so any file of its size is taken for one.
+bool CheckCommand::isOtherKind(const QString& path, const QByteArray& bytes, FileFormat::Kind kind)
+{
+    if (kind == FileFormat::Kind::Palette && bytes.size() == qsizetype(Artfile::PALETTE_BYTES))
+        return false;
+    const std::optional<FileSignature::Sign> sign = FileSignature::sniff(bytes, kind);
+    if (!sign)
+        return false;
+    const auto named = [](FileFormat::Kind of) {
+        const QString description = FormatRegistry::byKind(of)->description;
+        return (QStringLiteral("aeiou").contains(description.at(0)) ? QStringLiteral("an ") : QStringLiteral("a "))
+               + description;
+    };
+    report.errorAt(path, 0, QStringLiteral("this is %1 (%2), not %3").arg(named(sign->kind), sign->evidence, named(kind)));
+    return true;
+}
+
+// Message files are read in the encoding asked for; without one, in UTF-8 when they are valid
+// UTF-8 and otherwise in the game's code page.
+QTextCodec* CheckCommand::codecFor(const QByteArray& bytes) const
+{
+    if (encodingChosen || codec->mibEnum() != 106 /* UTF-8 */)
+        return codec;
+    QTextCodec::ConverterState state;
+    codec->toUnicode(bytes.constData(), int(bytes.size()), &state);
+    return state.invalidChars == 0 ? codec : DialogueFileNew::textCodec();
+}
+
+// The game's texts end at a NUL byte; bytes the encoding cannot read change when the file is saved.
+void CheckCommand::checkText(const QString& path, const QByteArray& bytes, QTextCodec* textCodec)
+{
+    int line = 1;
+    qsizetype lineStart = 0;
+    for (qsizetype at = bytes.indexOf('\0'); at >= 0; at = bytes.indexOf('\0', at + 1)) {
+        for (qsizetype end = bytes.indexOf('\n', lineStart); end >= 0 && end < at; end = bytes.indexOf('\n', lineStart)) {
+            ++line;
+            lineStart = end + 1;
+        }
+        report.error(path, line, QStringLiteral("a NUL byte at offset 0x%1: the game's text ends there").arg(at, 0, 16));
+        const qsizetype next = bytes.indexOf('\n', at);
+        if (next < 0)
+            break;
+        at = next; // one report a line
+    }
+    for (int lossy : TextDecoding::lossyLines(textCodec, bytes))
+        report.error(path, lossy,
+                     QStringLiteral("bytes that are not valid %1").arg(QString::fromLatin1(textCodec->name())));
 }
 
 void CheckCommand::checkMes(const QString& path)
@@ -153,8 +219,13 @@ void CheckCommand::checkDialogue(const QString& path)
     QFile file(path);
     DialogueFileNew dialogue(&file);
     dialogue.load();
-    for (const DialogueChecks::Problem& problem : DialogueChecks(dialogue).problems())
-        report.error(path, problem.line, problem.message);
+    const DialogueCheck check(dialogue);
+    for (const DialogueCheck::Finding& finding : check.findings()) {
+        if (finding.severity == DialogueCheck::Severity::Error)
+            report.error(path, finding.fileLine, finding.message);
+        else
+            report.note(path, finding.fileLine, finding.message);
+    }
 }
 
 void CheckCommand::checkScript(const QString& path)
@@ -219,6 +290,14 @@ void CheckCommand::checkArt(const QString& path)
     if (!art.isLoaded()) {
         report.errorAt(path, art.loadFailureOffset(), FileDump::artFailure(art));
         return;
+    }
+    if (const qsizetype extra = art.trailingBytes().size(); extra > 0) {
+        const qint64 size = QFileInfo(path).size();
+        report.errorAt(path, quint64(size - extra),
+                       QStringLiteral("%1 bytes after the last frame, which ends at byte %2 of %3")
+                           .arg(extra)
+                           .arg(size - extra)
+                           .arg(size));
     }
     for (unsigned i = 0; i < art.getImageCount(); ++i) {
         for (unsigned f = 0; f < art.getFrameCount(); ++f) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Diagnostics.h"
+#include "FileFormat.h"
 
 #include <QString>
 #include <QStringList>
@@ -12,19 +13,25 @@ class Script;
 }
 
 // `loreka check [DIR]`: reads every data file below DIR/data with the project's models and reports
-// what they record, plus what only a whole dialogue file shows (lines that answer with a line the
-// file lacks, indices used twice).
+// what they record, dialogues as the game reads them (arcanum::DialogueCheck), and the structural
+// defects of every file with their location.
 class CheckCommand
 {
 public:
-    explicit CheckCommand(QTextCodec* mesCodec);
+    // listNotes: print the notes too (what the game reads although our stricter reading objects).
+    CheckCommand(QTextCodec* mesCodec, bool listNotes);
 
+    // Message files are checked in mesCodec even when they are not valid in it.
+    void chooseEncoding() { encodingChosen = true; }
     // An empty dir means the base directory of "qtLoreka.ini", or the working directory.
     int run(const QString& dir);
 
 private:
     static QStringList ignoreList(const QString& base);
     void checkFile(const QString& path);
+    bool isOtherKind(const QString& path, const QByteArray& bytes, arcanum::FileFormat::Kind kind);
+    QTextCodec* codecFor(const QByteArray& bytes) const;
+    void checkText(const QString& path, const QByteArray& bytes, QTextCodec* textCodec);
     void checkArchives(const QString& base);
     void checkMes(const QString& path);
     void checkDialogue(const QString& path);
@@ -36,5 +43,6 @@ private:
     void checkPalette(const QString& path);
 
     QTextCodec* codec;
+    bool encodingChosen = false;
     Diagnostics report;
 };

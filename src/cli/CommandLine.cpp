@@ -28,6 +28,8 @@ CommandLine::CommandLine()
                   QStringLiteral("export, art export: sprite sheets, images as rows, frames as columns."))
     , outputOption(QStringList{QStringLiteral("o"), QStringLiteral("output")},
                    QStringLiteral("script decompile, compile: the file to write."), QStringLiteral("FILE"))
+    , notesOption(QStringLiteral("notes"),
+                  QStringLiteral("check: also list notes, what the game reads although a stricter reading objects."))
     , encodingOption(QStringLiteral("encoding"),
                      QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
                      QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
@@ -46,7 +48,7 @@ CommandLine::CommandLine()
     parser.setApplicationDescription(QStringLiteral(
         "Checks, dumps, round-trips and exports Arcanum game data.\n\n"
         "Commands:\n"
-        "  check [DIR]                   check every data file below DIR/data\n"
+        "  check [DIR] [--notes]         check every data file below DIR/data\n"
         "  dump FILE                     print a file as readable text (or JSON)\n"
         "  roundtrip FILE...             load and save each file, compare the bytes\n"
         "  export FILE.art OUTDIR        write the frames of an art file as images\n"
@@ -68,8 +70,8 @@ CommandLine::CommandLine()
         "Exit status: 0 clean, 1 problems or differences, 2 usage or input/output error."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, outputOption, encodingOption, fromOption, ditherOption,
-                       fpsOption, actionOption, hotspotOption});
+    parser.addOptions({jsonOption, paletteOption, formatOption, sheetOption, outputOption, notesOption, encodingOption,
+                       fromOption, ditherOption, fpsOption, actionOption, hotspotOption});
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, dump, roundtrip, export, art, find, script or dat"));
     parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("what the command works on"),
                                  QStringLiteral("[arguments...]"));
@@ -99,8 +101,12 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
     QTextCodec* codec = mesCodec();
     if (!codec)
         return usageError(QStringLiteral("unknown encoding \"%1\"").arg(parser.value(encodingOption)));
-    if (command == QLatin1String("check") && operands.size() <= 1)
-        return CheckCommand(codec).run(operands.value(0));
+    if (command == QLatin1String("check") && operands.size() <= 1) {
+        CheckCommand check(codec, parser.isSet(notesOption));
+        if (parser.isSet(encodingOption))
+            check.chooseEncoding();
+        return check.run(operands.value(0));
+    }
     if (command == QLatin1String("dump") && operands.size() == 1)
         return DumpCommand(codec, parser.isSet(jsonOption)).run(operands.first());
     if (command == QLatin1String("roundtrip") && !operands.isEmpty())

@@ -33,6 +33,7 @@ private:
     QCommandLineOption formatOption;
     QCommandLineOption sheetOption;
     QCommandLineOption outputOption;
+    QCommandLineOption notesOption;
     QCommandLineOption encodingOption;
     QCommandLineOption fromOption;
     QCommandLineOption ditherOption;

@@ -1,5 +1,7 @@
 #include "DatCommand.h"
 
+#include "JsonOrder.h"
+
 #include "CommandLine.h"
 #include "DatArchive.h"
 #include "DatWriter.h"
@@ -7,7 +9,6 @@
 
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 
@@ -91,7 +92,7 @@ int DatCommand::list(const QString& path)
             out(QStringLiteral("%1\t%2\t%3\t%4").arg(entry.path()).arg(entry.size).arg(entry.packedSize).arg(method));
     }
     if (json)
-        out(QString::fromUtf8(QJsonDocument(entries).toJson(QJsonDocument::Indented)).trimmed());
+        out(QString::fromUtf8(JsonOrder::toJson(entries)));
     return CommandLine::Clean;
 }
 

@@ -18,6 +18,16 @@ void Diagnostics::error(const QString& path, int line, const QString& message)
     print(path, QString::number(qMax(line, 1)), message);
 }
 
+void Diagnostics::note(const QString& path, int line, const QString& message)
+{
+    const QString where = QString::number(qMax(line, 1));
+    if (isIgnored(shownNames.value(path, path), where))
+        return;
+    ++notes;
+    if (notesShown)
+        print(path, where, message, "note");
+}
+
 void Diagnostics::errorAt(const QString& path, quint64 offset, const QString& message)
 {
     print(path, QStringLiteral("offset 0x%1").arg(offset, 0, 16), message);
@@ -43,16 +53,19 @@ bool Diagnostics::isIgnored(const QString& path, const QString& where) const
     return ignoreEntries.contains(relative) || ignoreEntries.contains(relative + QLatin1Char(':') + where);
 }
 
-void Diagnostics::print(const QString& file, const QString& where, const QString& message)
+void Diagnostics::print(const QString& file, const QString& where, const QString& message, const char* severity)
 {
     const QString path = shownNames.value(file, file);
-    if (isIgnored(path, where)) {
+    const bool error = qstrcmp(severity, "error") == 0;
+    if (error && isIgnored(path, where)) {
         ++ignored;
         return;
     }
     clearProgress();
-    ++problems;
-    out << path << (where.isEmpty() ? QString() : QLatin1Char(':') + where) << ": error: " << message << Qt::endl;
+    if (error)
+        ++problems;
+    out << path << (where.isEmpty() ? QString() : QLatin1Char(':') + where) << ": " << severity << ": " << message
+        << Qt::endl;
 }
 
 void Diagnostics::progress(int done, int total, const QString& path)
@@ -75,6 +88,8 @@ void Diagnostics::summary()
     clearProgress();
     out << files << (files == 1 ? " file" : " files") << " checked, " << problems
         << (problems == 1 ? " problem" : " problems");
+    if (notes > 0)
+        out << ", " << notes << (notes == 1 ? " note" : " notes");
     if (ignored > 0)
         out << " (" << ignored << " ignored)";
     out << Qt::endl;

@@ -17,6 +17,10 @@ public:
     Diagnostics();
 
     void error(const QString& path, int line, const QString& message);
+    // What the game reads although our stricter reading objects: counted apart, never a problem,
+    // printed only when notes are shown.
+    void note(const QString& path, int line, const QString& message);
+    void showNotes(bool show) { notesShown = show; }
     void errorAt(const QString& path, quint64 offset, const QString& message);
     // A file that could not be read at all: a problem, and also an input/output failure.
     void ioError(const QString& path, const QString& message);
@@ -30,7 +34,7 @@ public:
 
     void fileChecked() { ++files; }
     void progress(int done, int total, const QString& path);
-    // "N files checked, M problems".
+    // "N files checked, M problems", and ", K notes" when there are notes.
     void summary();
 
     int problemCount() const { return problems; }
@@ -38,7 +42,7 @@ public:
     int exitCode() const;
 
 private:
-    void print(const QString& file, const QString& where, const QString& message);
+    void print(const QString& file, const QString& where, const QString& message, const char* severity = "error");
     bool isIgnored(const QString& path, const QString& where) const;
     void clearProgress();
 
@@ -49,6 +53,8 @@ private:
     int files = 0;
     int problems = 0;
     int ignored = 0;
+    int notes = 0;
+    bool notesShown = false;
     QHash<QString, QString> shownNames;
     QString ignoreBase;
     QStringList ignoreEntries;

@@ -2,10 +2,10 @@
 
 #include "CommandLine.h"
 #include "FileDump.h"
+#include "JsonOrder.h"
 #include "JsonText.h"
 
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QTextStream>
 
 #include <cstdio>
@@ -49,7 +49,7 @@ int DumpCommand::run(const QString& path)
     dump.insert(QStringLiteral("file"), path);
     QTextStream out(stdout);
     if (asJson)
-        out << QJsonDocument(dump).toJson(QJsonDocument::Indented);
+        out << QString::fromUtf8(JsonOrder::toJson(dump)) << '\n';
     else
         JsonText(out).print(dump);
     return CommandLine::Clean;

@@ -54,6 +54,8 @@ int ExportCommand::run(const QString& artPath, const QString& targetDir)
         if (!(sheet ? exportSheet(art, palette) : exportFrames(art, palette)))
             return CommandLine::Failure;
     }
+    QTextStream(stdout) << written << (written == 1 ? " file" : " files") << " written to "
+                        << QDir::toNativeSeparators(QDir(outDir).absolutePath()) << Qt::endl;
     return CommandLine::Clean;
 }
 
@@ -124,8 +126,10 @@ bool ExportCommand::write(const QImage& image, const QString& fileName)
     const QString path = QDir(outDir).filePath(fileName);
     // JPEG has no alpha channel and no palettes.
     const QImage saved = format == QLatin1String("jpg") ? image.convertToFormat(QImage::Format_RGB32) : image;
-    if (saved.save(path, format.toLatin1().constData()))
+    if (saved.save(path, format.toLatin1().constData())) {
+        ++written;
         return true;
+    }
     QTextStream(stderr) << path << ": error: cannot be written" << Qt::endl;
     return false;
 }

@@ -31,4 +31,5 @@ private:
     int chosenPalette = -1;
     QString outDir;
     QString name;
+    int written = 0;
 };

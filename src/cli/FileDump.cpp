@@ -53,12 +53,13 @@ QJsonArray opcodes(const QVector<dlg::TestOrResultData>& records)
     return list;
 }
 
-QJsonObject lineObject(const DialogueFileNew::Line& line, const QString& kind)
+QJsonObject lineObject(const DialogueFileNew::Line& line)
 {
-    QJsonObject object{{"text", QStringLiteral("%1 line %2: %3").arg(kind).arg(line.index()).arg(line.text())},
-                       {"file line", line.sourceLine()}};
-    if (line.errors())
+    QJsonObject object{{"index", line.index()}, {"text", line.text()}, {"file line", line.sourceLine()}};
+    if (line.errors() && line.errors()->hasErrors())
         object.insert("errors", QJsonArray::fromStringList(line.errors()->messages));
+    if (line.errors() && !line.errors()->notes.isEmpty())
+        object.insert("notes", QJsonArray::fromStringList(line.errors()->notes));
     return object;
 }
 
@@ -89,12 +90,16 @@ QJsonObject FileDump::mes(const QString& path, QTextCodec* codec)
     QJsonArray entries;
     for (int i = 0; i < file.getEntryCount(); ++i) {
         const Mesfile::Entry* entry = file.getEntryAt(i);
-        QJsonObject object{{"text", QStringLiteral("{%1}{%2}").arg(entry->getMesIndex()).arg(entry->getItemAt(0))},
-                           {"index", entry->getMesIndex()}, {"file line", entry->getSourceLine()}};
-        if (!entry->getComment().isEmpty())
-            object.insert("comment", entry->getComment());
-        if (!entry->isValid())
+        // An entry that could not be read has no text of its own: it is shown as the line it stands on.
+        QJsonObject object{{"index", entry->getMesIndex()}, {"file line", entry->getSourceLine()}};
+        if (entry->isValid()) {
+            object.insert("text", entry->getItemAt(0));
+            if (!entry->getComment().isEmpty())
+                object.insert("comment", entry->getComment());
+        } else {
+            object.insert("text", entry->getLine().trimmed());
             object.insert("error", entry->getValidationError());
+        }
         entries.append(object);
     }
     return QJsonObject{{"header", file.getHeader()}, {"entries", entries}};
@@ -108,7 +113,7 @@ QJsonObject FileDump::dialogue(const QString& path)
         return failed(QStringLiteral("cannot be read"));
     QJsonArray npc;
     for (const DialogueFileNew::NPCLinePointer& line : dialogue.npcLines()) {
-        QJsonObject object = lineObject(*line, QStringLiteral("NPC"));
+        QJsonObject object = lineObject(*line);
         object.insert("female text", line->femaleText());
         object.insert("response line", line->responseLine());
         object.insert("results", opcodes(line->results().records()));
@@ -116,7 +121,7 @@ QJsonObject FileDump::dialogue(const QString& path)
     }
     QJsonArray pc;
     for (const DialogueFileNew::PCLinePointer& line : dialogue.pcLines()) {
-        QJsonObject object = lineObject(*line, QStringLiteral("PC"));
+        QJsonObject object = lineObject(*line);
         object.insert("gender", line->gender());
         object.insert("intelligence", line->intelligence());
         object.insert("tests", opcodes(line->tests().records()));

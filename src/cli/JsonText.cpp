@@ -1,5 +1,7 @@
 #include "JsonText.h"
 
+#include "JsonOrder.h"
+
 #include <QJsonArray>
 #include <QJsonValue>
 #include <QTextStream>
@@ -18,9 +20,9 @@ JsonText::JsonText(QTextStream& stream)
 
 void JsonText::print(const QJsonObject& object, int depth)
 {
-    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
-        if (it.key() != QLatin1String("text") || depth == 0)
-            printMember(it.key(), it.value(), depth);
+    for (const QString& key : JsonOrder::keys(object)) {
+        if (key != QLatin1String("text") || depth == 0)
+            printMember(key, object.value(key), depth);
     }
 }
 

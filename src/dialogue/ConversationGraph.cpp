@@ -1,5 +1,6 @@
 #include "ConversationGraph.h"
 
+#include "DialogueCheck.h"
 #include "OpcodeWords.h"
 
 #include <QCoreApplication>
@@ -40,8 +41,22 @@ ConversationGraph ConversationGraph::build(const arcanum::DialogueFileNew& dialo
     graph.addEdges(dialogue);
     graph.markUnnamed(dialogue);
     graph.assignLayers();
+    graph.markNotes(dialogue);
     graph.placeLayers();
     return graph;
+}
+
+// A line marked for nothing else but with notes: the game reads it, a stricter reading objects.
+void ConversationGraph::markNotes(const arcanum::DialogueFileNew& dialogue)
+{
+    const arcanum::DialogueCheck check(dialogue);
+    for (Node& node : nodeList) {
+        if (node.kind == Kind::End || node.marks != 0)
+            continue;
+        const auto kind = node.kind == Kind::Pc ? arcanum::DialogueCheck::LineKind::Pc : arcanum::DialogueCheck::LineKind::Npc;
+        if (check.worstOf(kind, node.line) == arcanum::DialogueCheck::Severity::Note)
+            node.marks = Note;
+    }
 }
 
 int ConversationGraph::find(Kind kind, int line) const
@@ -57,7 +72,9 @@ void ConversationGraph::addLines(const arcanum::DialogueFileNew& dialogue)
         node.kind = kind;
         node.line = line.index();
         node.label = firstWords(line.text());
-        node.marks = line.errors() != nullptr ? Problem : 0;
+        // An edited line is written from its fields: what its read text had is gone.
+        const arcanum::DialogueFileNew::LineErrors* errors = line.errors();
+        node.marks = errors && errors->hasErrors() && !line.isEdited() ? Problem : 0;
         // The first of twins is the one found.
         const quint64 number = key(kind, node.line);
         if (!byLine.contains(number))

@@ -15,7 +15,8 @@ class ConversationGraph
 {
 public:
     enum class Kind { Npc, Pc, End };
-    enum Mark { Unreached = 1, Dangling = 2, Duplicate = 4, Problem = 8 };
+    // Problem: the line has errors; Note: it has only notes (the game reads it).
+    enum Mark { Unreached = 1, Dangling = 2, Duplicate = 4, Problem = 8, Note = 16 };
 
     struct Node
     {
@@ -49,6 +50,7 @@ private:
     int endNode(int code);
     void markDuplicates();
     void assignLayers();
+    void markNotes(const arcanum::DialogueFileNew& dialogue);
     void placeLayers();
 
     QVector<Node> nodeList;

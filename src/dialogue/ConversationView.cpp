@@ -63,7 +63,8 @@ ConversationView::ConversationView(QWidget* parent)
              {ConversationGraph::Kind::Npc, ConversationGraph::Unreached, tr("nothing leads here")},
              {ConversationGraph::Kind::Pc, ConversationGraph::Dangling, tr("leads to a missing line")},
              {ConversationGraph::Kind::Npc, ConversationGraph::Duplicate, tr("number used twice")},
-             {ConversationGraph::Kind::Npc, ConversationGraph::Problem, tr("line has problems")}}) {
+             {ConversationGraph::Kind::Npc, ConversationGraph::Problem, tr("line has problems")},
+             {ConversationGraph::Kind::Npc, ConversationGraph::Note, tr("line has notes (the game reads it)")}}) {
         sample.kind = kind;
         sample.marks = marks;
         text += swatch(colourOf(sample), words);
@@ -82,6 +83,8 @@ QColor ConversationView::colourOf(const ConversationGraph::Node& node)
         return QColor(0xf7, 0xc3, 0x7c);
     if (node.marks & ConversationGraph::Unreached)
         return QColor(0xf5, 0xe5, 0x7a);
+    if (node.marks & ConversationGraph::Note)
+        return QColor(0x9f, 0xe3, 0xe8);
     switch (node.kind) {
     case ConversationGraph::Kind::Npc:
         return QColor(0xc8, 0xdc, 0xf5);

@@ -55,7 +55,8 @@ QString DialogueDocument::lineProblems() const
     QStringList listed;
     int count = 0;
     const auto note = [&](const DialogueFileNew::Line& line) {
-        if (line.errors() == nullptr)
+        // Notes are what the game reads although our stricter reading objects: no damage.
+        if (line.errors() == nullptr || !line.errors()->hasErrors())
             return;
         if (++count <= LISTED_PROBLEMS)
             listed.append(tr("line %1 (file line %2): %3")

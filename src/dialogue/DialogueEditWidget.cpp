@@ -5,6 +5,7 @@
 #include "ConversationGraph.h"
 #include "ConversationView.h"
 #include "DialogueDocument.h"
+#include "DialogueProblemsPanel.h"
 #include "DlgNpcLineEditWidget.h"
 #include "DlgPcLineEditWidget.h"
 #include "LineNumberDialog.h"
@@ -12,12 +13,15 @@
 #include "WheelGuard.h"
 #include "ui_DialogueEditWidget.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QStyle>
+#include <QUndoStack>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <QTreeWidgetItemIterator>
@@ -72,6 +76,10 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     // The forms sit on the page itself, not on a panel of their own.
     ui->scrollForms->viewport()->setAutoFillBackground(false);
     ui->scrollFormsContents->setAutoFillBackground(false);
+    problems = new DialogueProblemsPanel(ui->formPanel);
+    ui->formPanelLayout->addWidget(problems);
+    connect(problems, &DialogueProblemsPanel::lineActivated, this,
+            [this](bool pc, int line) { pc ? openPcLine(line) : openNpcLine(line); });
     WheelGuard::install(this);
     closeLine();
     showUnreadText();
@@ -125,6 +133,7 @@ void DialogueEditWidget::showDocument()
             const OpenLine wasOpen = open;
             formEdited = false;
             closeLine();
+            refreshProblems();
             fillTrees();
             reopen(wasOpen);
             // Undoing or redoing a renumbering keeps its line open under the number it has now.
@@ -140,6 +149,7 @@ void DialogueEditWidget::showDocument()
         connect(shown, &Document::modifiedChanged, this, &DialogueEditWidget::updateControls);
     }
     showFileName();
+    refreshProblems();
     fillTrees();
     showUnreadText();
     refreshGraph();
@@ -186,6 +196,19 @@ void DialogueEditWidget::refreshGraph()
         return;
     graphWindow->setWindowTitle(tr("Conversation: %1").arg(document()->displayName()));
     graph->showGraph(ConversationGraph::build(*getModel()));
+}
+
+void DialogueEditWidget::refreshProblems()
+{
+    lineCheck = getModel() ? std::make_unique<arcanum::DialogueCheck>(*getModel()) : nullptr;
+    problems->showFindings(lineCheck ? lineCheck->findings() : QList<arcanum::DialogueCheck::Finding>());
+}
+
+std::optional<arcanum::DialogueCheck::Severity> DialogueEditWidget::severityOf(const DialogueFileNew::Line& line,
+                                                                              bool pc) const
+{
+    using Kind = arcanum::DialogueCheck::LineKind;
+    return lineCheck ? lineCheck->worstOf(pc ? Kind::Pc : Kind::Npc, line.index()) : std::nullopt;
 }
 
 void DialogueEditWidget::setUpTrees()
@@ -315,17 +338,23 @@ void DialogueEditWidget::rebuildPCList()
 namespace {
 
 // Marks an item with its line: index and kind for look-ups, the whole text and any problems in
-// its tool tip, defective lines in red.
-void describe(QTreeWidgetItem* item, const DialogueFileNew::Line& line, int kind)
+// its tool tip, lines with errors in red, lines with notes only (the game reads them) with a note mark.
+void describe(QTreeWidgetItem* item, const DialogueFileNew::Line& line, int kind,
+              std::optional<arcanum::DialogueCheck::Severity> severity)
 {
     item->setData(0, INDEX_ROLE, line.index());
     item->setData(0, KIND_ROLE, kind);
     QString toolTip = QStringLiteral("<p style='white-space:pre-wrap'>") + htmlLines(line.text()) + QStringLiteral("</p>");
-    if (const DialogueFileNew::LineErrors* errors = line.errors()) {
+    if (const DialogueFileNew::LineErrors* errors = line.errors(); errors && !line.isEdited()) {
         toolTip += QStringLiteral("<p style='color:#a01010'>") + htmlLines(errors->messages.join(QLatin1Char('\n')))
-                   + QStringLiteral("</p>");
+                   + QStringLiteral("</p><p>") + htmlLines(errors->notes.join(QLatin1Char('\n'))) + QStringLiteral("</p>");
+    }
+    if (severity == arcanum::DialogueCheck::Severity::Error) {
         for (int column = 0; column < item->columnCount(); ++column)
             item->setForeground(column, DEFECT_COLOUR);
+    } else if (severity == arcanum::DialogueCheck::Severity::Note) {
+        item->setIcon(0, QApplication::style()->standardIcon(QStyle::SP_MessageBoxInformation));
+        item->setData(0, Qt::AccessibleDescriptionRole, QStringLiteral("note"));
     }
     for (int column = 0; column < item->columnCount(); ++column)
         item->setToolTip(column, toolTip);
@@ -339,7 +368,7 @@ QTreeWidgetItem* DialogueEditWidget::npcItem(const DialogueFileNew::NPCLine& lin
     QFont bold = item->font(0);
     bold.setBold(true);
     item->setFont(0, bold);
-    describe(item, line, static_cast<int>(LineKind::Npc));
+    describe(item, line, static_cast<int>(LineKind::Npc), severityOf(line, false));
     return item;
 }
 
@@ -347,7 +376,7 @@ QTreeWidgetItem* DialogueEditWidget::pcChildItem(const DialogueFileNew::PCLine& 
 {
     auto* item = new QTreeWidgetItem({tr("PC response line:") + QStringLiteral(" %1: %2").arg(line.index()).arg(firstLine(line.text())),
                                       QStringLiteral("→ %1").arg(line.responseLine())});
-    describe(item, line, static_cast<int>(LineKind::Pc));
+    describe(item, line, static_cast<int>(LineKind::Pc), severityOf(line, true));
     item->setData(0, TARGET_ROLE, line.responseLine());
     item->setToolTip(NPC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
     return item;
@@ -357,7 +386,7 @@ QTreeWidgetItem* DialogueEditWidget::pcItem(const DialogueFileNew::PCLine& line)
 {
     auto* item = new QTreeWidgetItem(
         {QString::number(line.responseLine()), QString::number(line.index()), firstLine(line.text())});
-    describe(item, line, static_cast<int>(LineKind::Pc));
+    describe(item, line, static_cast<int>(LineKind::Pc), severityOf(line, true));
     item->setData(0, TARGET_ROLE, line.responseLine());
     item->setToolTip(PC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
     return item;
@@ -495,6 +524,7 @@ void DialogueEditWidget::saveLineEditChangesToMem()
     // The form wrote into the line in place; the step is what the bytes became.
     shown->recordEdit(open.kind == LineKind::Pc ? tr("Edit PC line %1").arg(open.index)
                                                 : tr("Edit NPC line %1").arg(open.index));
+    refreshProblems();
     refreshGraph();
     emit npcListChanged();
     emit pcListChanged();
@@ -539,10 +569,23 @@ void DialogueEditWidget::showLineErrors()
     ui->labelLineErrors->setVisible(errors != nullptr);
     if (!errors)
         return;
-    QString text = QStringLiteral("<b style='color:#a01010'>") + tr("This line has problems:") + QStringLiteral("</b><ul style='color:#a01010; margin:0'>");
-    for (const QString& message : errors->messages)
-        text += QStringLiteral("<li>") + message.toHtmlEscaped() + QStringLiteral("</li>");
-    text += QStringLiteral("</ul>");
+    const auto listed = [](const QStringList& messages) {
+        QString items;
+        for (const QString& message : messages)
+            items += QStringLiteral("<li>") + message.toHtmlEscaped() + QStringLiteral("</li>");
+        return items;
+    };
+    QString text;
+    if (errors->hasErrors())
+        text += QStringLiteral("<b style='color:#a01010'>") + tr("This line has problems:")
+                + QStringLiteral("</b><ul style='color:#a01010; margin:0'>") + listed(errors->messages) + QStringLiteral("</ul>");
+    if (!errors->notes.isEmpty())
+        text += QStringLiteral("<b>") + tr("Notes (the game reads this line as it is):") + QStringLiteral("</b><ul style='margin:0'>")
+                + listed(errors->notes) + QStringLiteral("</ul>");
+    // Notes only: no damage, so no alarm colour.
+    ui->labelLineErrors->setStyleSheet(errors->hasErrors()
+                                           ? QStringLiteral("QLabel { background: #fbeaea; border: 1px solid #d9a0a0; padding: 4px; }")
+                                           : QStringLiteral("QLabel { background: #eef3fb; border: 1px solid #a8bcd9; padding: 4px; }"));
     if (line->isEdited())
         text += tr("You changed it, so it is saved from the form's fields.");
     else

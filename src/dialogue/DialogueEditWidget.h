@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DialogueCheck.h"
 #include "DialogueFileNew.h"
 #include "LineHistory.h"
 #include "Page.h"
@@ -12,6 +13,7 @@
 #include <utility>
 
 class ConversationView;
+class DialogueProblemsPanel;
 class DialogueDocument;
 class DlgLineEditWidget;
 class QTreeWidget;
@@ -119,6 +121,9 @@ private:
 
     std::unique_ptr<Ui_DialogueEditWidget> ui;
     void refreshGraph();
+    // Judges the file again: the Problems panel and the marks of the trees show the result.
+    void refreshProblems();
+    std::optional<arcanum::DialogueCheck::Severity> severityOf(const arcanum::DialogueFileNew::Line& line, bool pc) const;
 
     // Set while the form has edits not yet applied to its line.
     bool formEdited = false;
@@ -132,4 +137,6 @@ private:
     // The line last renumbered, as it was and as it became.
     std::pair<OpenLine, OpenLine> renumbered;
     LineHistory history;
+    DialogueProblemsPanel* problems = nullptr;
+    std::unique_ptr<arcanum::DialogueCheck> lineCheck;
 };
