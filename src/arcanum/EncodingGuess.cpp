@@ -201,6 +201,16 @@ int extendedPairs(QTextCodec* codec, const QByteArray& bytes)
     return count;
 }
 
+// Message and dialogue files put every text between braces; a double-byte code page that takes a brace
+// as the second byte of a character reads a text of another encoding.
+int swallowedBraces(const QByteArray& bytes, const QString& text)
+{
+    const qsizetype inBytes = bytes.count('{') + bytes.count('}');
+    const qsizetype inText = text.count(QLatin1Char('{')) + text.count(QLatin1Char('}'));
+    constexpr int WEIGHT = 2;
+    return WEIGHT * int(inBytes - inText);
+}
+
 QTextCodec* codecOf(const QByteArray& detectorName)
 {
     if (detectorName.isEmpty())
@@ -237,7 +247,7 @@ bool EncodingGuess::isUtf8(const QByteArray& bytes)
 double EncodingGuess::doubt(QTextCodec* codec, const QByteArray& bytes)
 {
     const QString text = codec->toUnicode(bytes);
-    return Doubt(text).perCharacter(extendedPairs(codec, bytes));
+    return Doubt(text).perCharacter(extendedPairs(codec, bytes) + swallowedBraces(bytes, text));
 }
 
 QList<QTextCodec*> EncodingGuess::cleanEncodings(const QByteArray& bytes)
@@ -271,6 +281,14 @@ QList<QTextCodec*> EncodingGuess::cleanEncodings(const QByteArray& bytes)
     for (const Ranked& one : ranked)
         codecs.append(one.codec);
     return codecs;
+}
+
+EncodingGuess::Findings EncodingGuess::examine(QTextCodec* codec, const QByteArray& bytes)
+{
+    Findings findings{TextDecoding::unreadable(codec, bytes), {}};
+    if (!findings.unreadable.isClean())
+        findings.suggestions = cleanEncodings(bytes);
+    return findings;
 }
 
 QTextCodec* EncodingGuess::best(const QByteArray& bytes, QTextCodec* fallback)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TextDecoding.h"
+
 #include <QByteArray>
 #include <QList>
 
@@ -16,6 +18,15 @@ namespace arcanum {
 class EncodingGuess
 {
 public:
+    // A file read in one encoding: what did not read, and when something did not, the encodings that
+    // would read all of it, the most likely first.
+    struct Findings
+    {
+        TextDecoding::Unreadable unreadable;
+        QList<QTextCodec*> suggestions;
+    };
+    static Findings examine(QTextCodec* codec, const QByteArray& bytes);
+
     // uchardet's answer as a Qt codec, a name it reports for a subset taken as the superset Windows
     // uses (ISO-8859-1 as Windows-1252, EUC-KR as CP949); null when it has none that Qt knows.
     static QTextCodec* detector(const QByteArray& bytes);

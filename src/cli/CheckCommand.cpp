@@ -15,6 +15,7 @@
 #include "Mesfile.h"
 #include "Proto.h"
 #include "Script.h"
+#include "TextDecoding.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,8 +39,8 @@ QString savedBaseDir()
 
 } // namespace
 
-CheckCommand::CheckCommand(QTextCodec* mesCodec)
-    : codec(mesCodec)
+CheckCommand::CheckCommand(const EncodingChoice& encoding)
+    : encoding(encoding)
 {
 }
 
@@ -136,8 +137,22 @@ void CheckCommand::checkFile(const QString& path)
         checkPalette(path);
 }
 
+QTextCodec* CheckCommand::checkEncoding(const QString& path)
+{
+    QFile file(path);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const FileFormat* format = FormatRegistry::byPath(path);
+    QTextCodec* codec = encoding.codecFor(format ? format->kind : FileFormat::Kind::Message, bytes);
+    // The game reads bytes, not characters: only an encoding the user named makes unreadable ones a fault.
+    const QString unreadable = encoding.isChosen() ? encoding.unreadable(codec, bytes) : QString();
+    if (!unreadable.isEmpty())
+        report.error(path, TextDecoding::unreadable(codec, bytes).firstLine, unreadable);
+    return codec;
+}
+
 void CheckCommand::checkMes(const QString& path)
 {
+    QTextCodec* codec = checkEncoding(path);
     Mesfile mes(path);
     if (QFileInfo(path).size() == 0 || !mes.load(codec))
         return; // an empty message file is allowed
@@ -150,8 +165,10 @@ void CheckCommand::checkMes(const QString& path)
 
 void CheckCommand::checkDialogue(const QString& path)
 {
+    QTextCodec* codec = checkEncoding(path);
     QFile file(path);
     DialogueFileNew dialogue(&file);
+    dialogue.setCodec(codec);
     dialogue.load();
     for (const DialogueChecks::Problem& problem : DialogueChecks(dialogue).problems())
         report.error(path, problem.line, problem.message);

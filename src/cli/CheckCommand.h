@@ -1,11 +1,10 @@
 #pragma once
 
 #include "Diagnostics.h"
+#include "EncodingChoice.h"
 
 #include <QString>
 #include <QStringList>
-
-class QTextCodec;
 
 namespace arcanum {
 class Script;
@@ -17,7 +16,7 @@ class Script;
 class CheckCommand
 {
 public:
-    explicit CheckCommand(QTextCodec* mesCodec);
+    explicit CheckCommand(const EncodingChoice& encoding);
 
     // An empty dir means the base directory of "qtLoreka.ini", or the working directory.
     int run(const QString& dir);
@@ -26,6 +25,8 @@ private:
     static QStringList ignoreList(const QString& base);
     void checkFile(const QString& path);
     void checkArchives(const QString& base);
+    // Reports bytes the encoding named with --encoding cannot read; the encoding to read the file in.
+    QTextCodec* checkEncoding(const QString& path);
     void checkMes(const QString& path);
     void checkDialogue(const QString& path);
     void checkScript(const QString& path);
@@ -35,6 +36,6 @@ private:
     void checkProto(const QString& path);
     void checkPalette(const QString& path);
 
-    QTextCodec* codec;
+    EncodingChoice encoding;
     Diagnostics report;
 };

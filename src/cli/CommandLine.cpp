@@ -3,11 +3,10 @@
 #include "CheckCommand.h"
 #include "DatCommand.h"
 #include "DumpCommand.h"
+#include "EncodingChoice.h"
 #include "ExportCommand.h"
 #include "ModelChatter.h"
 #include "RoundtripCommand.h"
-
-#include <QTextCodec>
 
 #include <cstdio>
 
@@ -20,8 +19,10 @@ CommandLine::CommandLine()
     , sheetOption(QStringLiteral("sheet"),
                   QStringLiteral("export: one sprite sheet per palette, images as rows, frames as columns."))
     , encodingOption(QStringLiteral("encoding"),
-                     QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
-                     QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
+                     QStringLiteral("check, dump, roundtrip: the encoding of .mes and .dlg files, a codec name or "
+                                    "auto (UTF-8 when the file is valid UTF-8, else the best guess, file by file); "
+                                    "default UTF-8 for .mes, windows-1251 for .dlg."),
+                     QStringLiteral("CODEC"))
 {
     parser.setApplicationDescription(QStringLiteral(
         "Checks, dumps, round-trips and exports Arcanum game data.\n\n"
@@ -61,15 +62,15 @@ int CommandLine::run(const QStringList& arguments)
 
 int CommandLine::dispatch(const QString& command, const QStringList& operands)
 {
-    QTextCodec* codec = mesCodec();
-    if (!codec)
+    const EncodingChoice encoding(parser.value(encodingOption));
+    if (!encoding.isValid())
         return usageError(QStringLiteral("unknown encoding \"%1\"").arg(parser.value(encodingOption)));
     if (command == QLatin1String("check") && operands.size() <= 1)
-        return CheckCommand(codec).run(operands.value(0));
+        return CheckCommand(encoding).run(operands.value(0));
     if (command == QLatin1String("dump") && operands.size() == 1)
-        return DumpCommand(codec, parser.isSet(jsonOption)).run(operands.first());
+        return DumpCommand(encoding, parser.isSet(jsonOption)).run(operands.first());
     if (command == QLatin1String("roundtrip") && !operands.isEmpty())
-        return RoundtripCommand(codec).run(operands);
+        return RoundtripCommand(encoding).run(operands);
     if (command == QLatin1String("export") && operands.size() == 2) {
         bool ok = false;
         const int palette = parser.value(paletteOption).toInt(&ok);
@@ -85,11 +86,6 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
     const QStringList known = {"check", "dump", "roundtrip", "export"};
     return usageError(known.contains(command) ? QStringLiteral("wrong number of arguments for %1").arg(command)
                                               : QStringLiteral("unknown command \"%1\"").arg(command));
-}
-
-QTextCodec* CommandLine::mesCodec()
-{
-    return QTextCodec::codecForName(parser.value(encodingOption).toLatin1());
 }
 
 int CommandLine::usageError(const QString& message)

@@ -7,6 +7,9 @@
 #include "DialogueDocument.h"
 #include "DlgNpcLineEditWidget.h"
 #include "DlgPcLineEditWidget.h"
+#include "EncodingBox.h"
+#include "EncodingStrip.h"
+#include "FileEncoding.h"
 #include "Prompt.h"
 #include "WheelGuard.h"
 #include "ui_DialogueEditWidget.h"
@@ -16,6 +19,7 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QTreeWidgetItemIterator>
@@ -51,6 +55,13 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     , ui(std::make_unique<Ui_DialogueEditWidget>())
 {
     ui->setupUi(this);
+    encoding = new FileEncoding(this, DialogueFileNew::defaultCodec());
+    auto* encodingLabel = new QLabel(tr("File encoding:"), this);
+    encodingLabel->setBuddy(encoding->box());
+    const int graphAt = ui->fileLayout->indexOf(ui->buttonGraph);
+    ui->fileLayout->insertWidget(graphAt, encodingLabel);
+    ui->fileLayout->insertWidget(graphAt + 1, encoding->box());
+    ui->mainLayout->insertWidget(ui->mainLayout->indexOf(ui->labelUnread), encoding->strip());
     setUpTrees();
     connectSignals();
     ui->splitter->setStretchFactor(0, 0);
@@ -81,7 +92,7 @@ QString DialogueEditWidget::fileFilter() const
 std::unique_ptr<Document> DialogueEditWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
     Q_UNUSED(error);
-    return DialogueDocument::fromBytes(path, bytes);
+    return DialogueDocument::fromBytes(path, bytes, encoding->codecFor(path));
 }
 
 DialogueDocument* DialogueEditWidget::dialogueDocument() const
@@ -117,6 +128,9 @@ void DialogueEditWidget::showDocument()
         });
         connect(shown, &Document::modifiedChanged, this, &DialogueEditWidget::updateControls);
     }
+    const DialogueDocument* shown = dialogueDocument();
+    encoding->show(shown ? shown->codec() : nullptr,
+                   shown ? shown->encodingFindings() : arcanum::EncodingGuess::Findings());
     showFileName();
     fillTrees();
     showUnreadText();

@@ -9,6 +9,7 @@
 #include <memory>
 
 class ConversationView;
+class FileEncoding;
 class DialogueDocument;
 class DlgLineEditWidget;
 class QTreeWidget;
@@ -101,4 +102,5 @@ private:
     QWidget* graphWindow = nullptr;
     ConversationView* graph = nullptr;
     OpenLine open;
+    FileEncoding* encoding = nullptr;
 };

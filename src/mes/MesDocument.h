@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Document.h"
+#include "EncodingGuess.h"
 #include "Mesfile.h"
 
 #include <QList>
@@ -23,6 +24,8 @@ public:
 
     const arcanum::Mesfile& model() const { return *mesfile; }
     QTextCodec* codec() const { return textCodec; }
+    // What did not read in that encoding, and the encodings that would read the file.
+    const arcanum::EncodingGuess::Findings& encodingFindings() const { return findings; }
     int columnCount() const;
     QString cell(int entry, int column) const;
     bool isEditable(int entry, int column) const;
@@ -48,6 +51,7 @@ private:
     QTextCodec* textCodec;
     // Lines whose bytes a read and write in this encoding would change, and the entries edited since.
     QList<int> lossyLines;
+    arcanum::EncodingGuess::Findings findings;
     QSet<int> editedEntries;
     bool headerEdited = false;
 };

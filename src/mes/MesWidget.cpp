@@ -2,6 +2,9 @@
 
 #include "FormatRegistry.h"
 
+#include "EncodingBox.h"
+#include "EncodingStrip.h"
+#include "FileEncoding.h"
 #include "MesDocument.h"
 #include "MesTableModel.h"
 #include "Prompt.h"
@@ -27,7 +30,7 @@ const int HEADER_MERGE_ID = 1002;
 
 } // namespace
 
-MesWidget::MesWidget(QWidget* parent, const QString& encoding)
+MesWidget::MesWidget(QWidget* parent, const QString& defaultEncoding)
     : Page(parent)
     , ui(std::make_unique<Ui_MesWidget>())
     , table(new MesTableModel(this))
@@ -35,7 +38,11 @@ MesWidget::MesWidget(QWidget* parent, const QString& encoding)
     ui->setupUi(this);
     ui->table->setModel(table);
     lineToolTip = ui->completeLine->toolTip();
-    fillEncodings(encoding);
+    QTextCodec* byDefault = QTextCodec::codecForName(defaultEncoding.toLatin1());
+    encoding = new FileEncoding(this, byDefault ? byDefault : QTextCodec::codecForName("UTF-8"));
+    ui->bottomLayout->insertWidget(1, encoding->box());
+    ui->encodingLabel->setBuddy(encoding->box());
+    ui->mainLayout->insertWidget(0, encoding->strip());
     ui->itemView->setReadOnly(true);
     ui->table->verticalHeader()->setVisible(false);
     ui->table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
@@ -63,47 +70,12 @@ QString MesWidget::fileFilter() const
 
 std::unique_ptr<Document> MesWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
-    return MesDocument::fromBytes(path, bytes, codec, error);
+    return MesDocument::fromBytes(path, bytes, encoding->codecFor(path), error);
 }
 
 MesDocument* MesWidget::mesDocument() const
 {
     return static_cast<MesDocument*>(document());
-}
-
-const QStringList& MesWidget::encodingList()
-{
-    // The game's own code pages first, then every other codec once, by its canonical name (Qt lists
-    // each codec under all of its aliases).
-    static const QStringList names = [] {
-        QStringList first;
-        for (const char* common : {"windows-1251", "windows-1252", "windows-1250", "UTF-8", "EUC-KR", "GBK", "Shift_JIS"})
-            if (const QTextCodec* codec = QTextCodec::codecForName(common))
-                first << QString::fromLatin1(codec->name());
-        QStringList rest;
-        for (int mib : QTextCodec::availableMibs()) {
-            const QString name = QString::fromLatin1(QTextCodec::codecForMib(mib)->name());
-            if (!first.contains(name, Qt::CaseInsensitive) && !rest.contains(name, Qt::CaseInsensitive))
-                rest << name;
-        }
-        std::sort(rest.begin(), rest.end(), [](const QString& a, const QString& b) {
-            return QString::compare(a, b, Qt::CaseInsensitive) < 0;
-        });
-        first.removeDuplicates();
-        return first + rest;
-    }();
-    return names;
-}
-
-void MesWidget::fillEncodings(const QString& encoding)
-{
-    const QSignalBlocker blocker(ui->encodingSelect);
-    ui->encodingSelect->addItems(encodingList());
-    codec = QTextCodec::codecForName(encoding.toLatin1());
-    if (!codec)
-        codec = QTextCodec::codecForName("UTF-8");
-    ui->encodingSelect->setCurrentIndex(
-        ui->encodingSelect->findText(QString::fromLatin1(codec->name()), Qt::MatchFixedString));
 }
 
 void MesWidget::connectSignals()
@@ -114,7 +86,6 @@ void MesWidget::connectSignals()
     });
     connect(ui->itemView, &QPlainTextEdit::textChanged, this, &MesWidget::itemViewEdited);
     connect(ui->editCommentary, &QPlainTextEdit::textChanged, this, &MesWidget::headerEdited);
-    connect(ui->encodingSelect, &QComboBox::currentTextChanged, this, &MesWidget::encodingChosen);
 }
 
 void MesWidget::showDocument()
@@ -143,10 +114,8 @@ void MesWidget::showDocument()
             ui->editCommentary->setPlainText(mesDocument()->model().getHeader());
         });
         connect(shown, &Document::modifiedChanged, this, &MesWidget::updateControls);
-        const QSignalBlocker blocker(ui->encodingSelect);
-        ui->encodingSelect->setCurrentIndex(
-            ui->encodingSelect->findText(QString::fromLatin1(shown->codec()->name()), Qt::MatchFixedString));
     }
+    encoding->show(shown ? shown->codec() : nullptr, shown ? shown->encodingFindings() : arcanum::EncodingGuess::Findings());
     fitColumns();
     updateControls();
 }
@@ -232,22 +201,6 @@ void MesWidget::headerEdited()
         return;
     pushValue<QString>(shown->undoStack(), tr("Edit header"), HEADER_MERGE_ID, 0, shown->model().getHeader(),
                        ui->editCommentary->toPlainText(), [shown](const QString& text) { shown->applyHeader(text); });
-}
-
-void MesWidget::encodingChosen(const QString& name)
-{
-    QTextCodec* chosen = QTextCodec::codecForName(name.toLatin1());
-    if (chosen == nullptr || chosen == codec)
-        return;
-    QTextCodec* previous = codec;
-    codec = chosen;
-    // The text means something else in the new encoding: the file is read again, after the usual question.
-    if (document() != nullptr && !openFile(document()->path())) {
-        codec = previous;
-        const QSignalBlocker blocker(ui->encodingSelect);
-        ui->encodingSelect->setCurrentIndex(
-            ui->encodingSelect->findText(QString::fromLatin1(codec->name()), Qt::MatchFixedString));
-    }
 }
 
 void MesWidget::on_reloadButton_clicked()

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class FileEncoding;
 class MesDocument;
 class MesTableModel;
 class QTextCodec;
@@ -19,18 +20,14 @@ class MesWidget : public Page
     Q_OBJECT
 
 public:
-    explicit MesWidget(QWidget* parent = nullptr, const QString& encoding = QStringLiteral("UTF-8"));
+    explicit MesWidget(QWidget* parent = nullptr, const QString& defaultEncoding = QStringLiteral("UTF-8"));
     ~MesWidget() override;
-
-    // Every codec name the platform offers, in its own order.
-    static const QStringList& encodingList();
 
     QStringList suffixes() const override;
     QString fileFilter() const override;
     std::unique_ptr<Document> fromBytes(const QString& path, const QByteArray& bytes, QString& error) const override;
 
     MesDocument* mesDocument() const;
-    QTextCodec* getCodec() const { return codec; }
 
 protected:
     void showDocument() override;
@@ -43,19 +40,17 @@ private slots:
 
 private:
     void connectSignals();
-    void fillEncodings(const QString& encoding);
     void fitColumns();
     void updateControls();
     void showCurrentCell();
     void showSourceLine();
     void itemViewEdited();
     void headerEdited();
-    void encodingChosen(const QString& name);
     void setItemViewText(const QString& text);
 
     std::unique_ptr<Ui_MesWidget> ui;
     MesTableModel* table = nullptr;
-    QTextCodec* codec = nullptr;
+    FileEncoding* encoding = nullptr;
     QString lineToolTip;
     // Set while the page fills its text boxes from the document, so that is not an edit.
     bool updating = false;
