@@ -999,24 +999,20 @@
 <context>
     <name>EncodingStrip</name>
     <message>
-        <source>The file does not read cleanly in %1: %2 character(s) stand for bytes it cannot read (shown as %3 or as blanks), the first on line %4. Saving would write them back changed.</source>
-        <translation>Файл не читается без ошибок в кодировке %1: нечитаемых байтов заменено символами — %2 (они показаны как %3 или пробелы), первый в строке %4. При сохранении они будут записаны изменёнными.</translation>
-    </message>
-    <message>
         <source>No encoding of the game&apos;s languages reads it cleanly; pick one in the list.</source>
         <translation>Ни одна кодировка языков игры не читает его без ошибок; выберите кодировку в списке.</translation>
     </message>
     <message>
-        <source>It reads cleanly in these encodings, the most likely first:</source>
-        <translation>Без ошибок он читается в этих кодировках (самая вероятная первой):</translation>
-    </message>
-    <message>
-        <source>Read it in</source>
-        <translation>Прочитать в</translation>
-    </message>
-    <message>
         <source>Reads the file again in %1 and remembers that for this file.</source>
         <translation>Перечитывает файл в кодировке %1 и запоминает её для этого файла.</translation>
+    </message>
+    <message>
+        <source>The file does not read cleanly in %1: %2 character(s) stand for bytes it cannot read (shown as %3 or as blanks), the first on line %4; saving would write them back changed.</source>
+        <translation>Файл не читается без ошибок в кодировке %1: нечитаемых байтов заменено символами — %2 (они показаны как %3 или пробелы), первый в строке %4; при сохранении они будут записаны изменёнными.</translation>
+    </message>
+    <message>
+        <source>It reads cleanly in (the most likely first):</source>
+        <translation>Без ошибок читается в (самая вероятная первой):</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,7 @@ EncodingStrip::EncodingStrip(QWidget* parent)
     , choices(new QHBoxLayout)
 {
     setObjectName(QStringLiteral("encodingStrip"));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     setStyleSheet(QStringLiteral("#encodingStrip { background: #fff3cd; border: 1px solid #e0b84c; }"
                                  "#encodingStrip QLabel { color: #5c4400; }"));
     message->setWordWrap(true);
@@ -51,18 +52,17 @@ void EncodingStrip::showFindings(QTextCodec* codec, const arcanum::EncodingGuess
         return;
     }
     const QString encoding = QString::fromLatin1(codec->name());
-    QString text = tr("The file does not read cleanly in %1: %2 character(s) stand for bytes it cannot read "
-                      "(shown as %3 or as blanks), the first on line %4. Saving would write them back changed.")
+    const QString text = tr("The file does not read cleanly in %1: %2 character(s) stand for bytes it cannot read "
+                            "(shown as %3 or as blanks), the first on line %4; saving would write them back changed.")
                        .arg(encoding)
                        .arg(findings.unreadable.characters)
                        .arg(QChar(0xFFFD))
                        .arg(findings.unreadable.firstLine);
     if (findings.suggestions.isEmpty()) {
-        text += QLatin1Char(' ') + tr("No encoding of the game's languages reads it cleanly; pick one in the list.");
+        choices->addWidget(new QLabel(tr("No encoding of the game's languages reads it cleanly; pick one in the list."),
+                                      this));
     } else {
-        text += QLatin1Char(' ') + tr("It reads cleanly in these encodings, the most likely first:");
-        auto* label = new QLabel(tr("Read it in"), this);
-        choices->addWidget(label);
+        choices->addWidget(new QLabel(tr("It reads cleanly in (the most likely first):"), this));
         for (QTextCodec* suggestion : findings.suggestions.mid(0, SHOWN_SUGGESTIONS)) {
             auto* button = new QPushButton(QString::fromLatin1(suggestion->name()), this);
             button->setObjectName(QStringLiteral("encodingSuggestion"));
@@ -71,8 +71,8 @@ void EncodingStrip::showFindings(QTextCodec* codec, const arcanum::EncodingGuess
             connect(button, &QPushButton::clicked, this, [this, suggestion] { emit codecChosen(suggestion); });
             choices->addWidget(button);
         }
-        choices->addStretch(1);
     }
+    choices->addStretch(1);
     message->setText(text);
     show();
 }
