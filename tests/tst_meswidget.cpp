@@ -252,6 +252,13 @@ private slots:
         answers.buttons << QMessageBox::Yes;
         QVERIFY(page->save());
         QCOMPARE(FormatChecks::readFile(file), QByteArray(russian).replace("Shield", "Buckler"));
+
+        // A copy saved under another name opens in the same encoding.
+        answers.fileNames << path(QStringLiteral("ru-copy.mes"));
+        QVERIFY(page->saveAs());
+        page = std::make_unique<MesWidget>();
+        QVERIFY(page->openFile(path(QStringLiteral("ru-copy.mes"))));
+        QCOMPARE(page->mesDocument()->codec()->name(), QByteArray("windows-1251"));
     }
 
     void suggestedEncodingReadsTheFile()

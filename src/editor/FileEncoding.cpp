@@ -33,6 +33,11 @@ void FileEncoding::show(QTextCodec* codec, const arcanum::EncodingGuess::Finding
     shown = codec;
     list->showCodec(codec != nullptr ? codec : byDefault);
     warning->showFindings(codec, findings);
+    // A copy saved under another name is in the same encoding, and opens in it again.
+    if (Document* document = page->document(); document != nullptr && codec != nullptr && codec != byDefault)
+        connect(document, &Document::pathChanged, this, [codec](const QString& path) {
+            gui::rememberEncoding(path, codec->name());
+        });
 }
 
 void FileEncoding::choose(QTextCodec* codec)
