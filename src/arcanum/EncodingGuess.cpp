@@ -1,5 +1,6 @@
 #include "EncodingGuess.h"
 
+#include "TextCodec.h"
 #include "TextDecoding.h"
 
 #include <QHash>
@@ -219,6 +220,17 @@ QTextCodec* codecOf(const QByteArray& detectorName)
     return QTextCodec::codecForName(name);
 }
 
+// Ranking looks at the first lines only: a few thousand characters settle it, and a file of megabytes
+// would take long. Every byte is still checked for being readable.
+QByteArray sampleOf(const QByteArray& bytes)
+{
+    constexpr qsizetype SAMPLE_BYTES = 64 * 1024;
+    if (bytes.size() <= SAMPLE_BYTES)
+        return bytes;
+    const qsizetype lineEnd = bytes.lastIndexOf('\n', SAMPLE_BYTES);
+    return bytes.left(lineEnd > 0 ? lineEnd + 1 : SAMPLE_BYTES);
+}
+
 struct Ranked
 {
     QTextCodec* codec;
@@ -246,7 +258,7 @@ bool EncodingGuess::isUtf8(const QByteArray& bytes)
 
 double EncodingGuess::doubt(QTextCodec* codec, const QByteArray& bytes)
 {
-    const QString text = codec->toUnicode(bytes);
+    const QString text = TextCodec::decode(codec, bytes);
     return Doubt(text).perCharacter(extendedPairs(codec, bytes) + swallowedBraces(bytes, text));
 }
 
@@ -259,7 +271,8 @@ QList<QTextCodec*> EncodingGuess::cleanEncodings(const QByteArray& bytes)
         if (QTextCodec* codec = QTextCodec::codecForName(name))
             tried.append(codec);
     }
-    QTextCodec* detected = detector(bytes);
+    const QByteArray sample = sampleOf(bytes);
+    QTextCodec* detected = detector(sample);
     if (detected != nullptr) {
         const bool known = tried.removeOne(detected);
         tried.insert(known ? 0 : tried.size(), detected);
@@ -272,7 +285,7 @@ QList<QTextCodec*> EncodingGuess::cleanEncodings(const QByteArray& bytes)
         if (isUtf8Codec ? !validUtf8 : !TextDecoding::unreadable(codec, bytes).isClean())
             continue;
         // Other encodings' bytes are almost never valid UTF-8: when they are, it is UTF-8.
-        ranked.append({codec, isUtf8Codec ? -1.0 : doubt(codec, bytes), order});
+        ranked.append({codec, isUtf8Codec ? -1.0 : doubt(codec, sample), order});
     }
     std::stable_sort(ranked.begin(), ranked.end(), [](const Ranked& a, const Ranked& b) {
         return a.doubt < b.doubt;

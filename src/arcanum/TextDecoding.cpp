@@ -1,5 +1,7 @@
 #include "TextDecoding.h"
 
+#include "TextCodec.h"
+
 #include <QCoreApplication>
 #include <QTextCodec>
 
@@ -32,7 +34,7 @@ TextDecoding::Unreadable TextDecoding::unreadable(QTextCodec* codec, const QByte
 {
     if (codec == nullptr)
         return {};
-    return unreadable(codec->toUnicode(bytes));
+    return unreadable(TextCodec::decode(codec, bytes));
 }
 
 TextDecoding::Unreadable TextDecoding::unreadable(const QString& decoded)
