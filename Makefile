@@ -3,7 +3,7 @@
 
 PACKAGES := qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-image-formats-plugins \
             libgl-dev ninja-build cmake g++ fonts-dejavu-core xvfb xauth \
-            pkg-config libdeflate-dev zlib1g-dev libuchardet-dev xdotool \
+            pkg-config libdeflate-dev zlib1g-dev libimagequant-dev libuchardet-dev xdotool \
             qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
@@ -94,7 +94,7 @@ bench: deps
 # ---- Fuzzing: one libFuzzer harness per file format reader (see fuzz/) ----
 FUZZ_DIR := build/fuzz
 FUZZ_SECONDS ?= 60
-FUZZ_KINDS := mes-utf8 mes-cp1251 dlg-table dlg scr art pro aap dat
+FUZZ_KINDS := mes-utf8 mes-cp1251 dlg-table dlg scr art pro aap dat art-folder
 # Sprites may be large, but no input of a few kilobytes has a reason to need more than this.
 FUZZ_OPTIONS := -rss_limit_mb=2048 -timeout=25 -print_final_stats=1
 # The harness of $kind (a shell variable of the loops below): mes-utf8 is fuzz_mes_utf8.

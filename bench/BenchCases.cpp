@@ -1,10 +1,17 @@
 #include "BenchCases.h"
 
+#include "ArtPreview.h"
+#include "ArtFolder.h"
+#include "ArtMaker.h"
 #include "Artfile.h"
 #include "DatArchive.h"
 #include "DatWriter.h"
+#include "GameSearch.h"
 #include "GameView.h"
+#include "PaletteMatcher.h"
 #include "BenchInputs.h"
+#include "ConversationGraph.h"
+#include "ConversationView.h"
 #include "DialogueFileNew.h"
 #include "FormatRegistry.h"
 #include "Manager.h"
@@ -17,14 +24,20 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextStream>
 #include <QTextCodec>
 
 #include <benchmark/benchmark.h>
 #include <zlib.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <functional>
 #include <memory>
@@ -207,6 +220,133 @@ void addArt(Registrar& r, const QString& game, const QString& out)
     });
 }
 
+// The Art tab's preview playing all eight directions: one loop over the 64 frames, each tick drawn as the
+// widget paints it. 64 ticks in 64/60 s keeps up with 60 frames a second, far above any sprite's rate.
+void addArtPreview(Registrar& r, const QString& game)
+{
+    const QString path = BenchInputs::artPath(game);
+    const int ticks = int(BenchInputs::ART_FRAMES);
+    const double pixels = double(ticks) * BenchInputs::ART_IMAGES * BenchInputs::ART_SIDE * BenchInputs::ART_SIDE;
+    const auto prepare = [path, ticks](bool warm) -> Registrar::Body {
+        auto loaded = std::make_shared<arcanum::Artfile>();
+        loaded->load(stdPath(path));
+        auto preview = std::make_shared<ArtPreview>();
+        preview->setArtfile(loaded.get());
+        preview->setAllImages(true);
+        preview->resize(preview->sizeHint());
+        auto canvas = std::make_shared<QImage>(preview->size(), QImage::Format_ARGB32_Premultiplied);
+        const auto loop = [loaded, preview, canvas, ticks] {
+            for (int tick = 0; tick < ticks; ++tick) {
+                preview->step(1);
+                preview->render(canvas.get());
+            }
+            benchmark::DoNotOptimize(canvas->constBits());
+        };
+        if (warm)
+            loop();
+        return [loop, preview, loaded, warm] {
+            if (!warm)
+                preview->setArtfile(loaded.get()); // every picture converted again
+            loop();
+        };
+    };
+    r.addPrepared("art preview: 8 directions x 64 frames, playing", pixels, Goal::Seconds, double(ticks) / 60,
+                  [prepare] { return prepare(true); });
+    r.addPrepared("art preview: the same, first loop (converting)", pixels, Goal::None, 0,
+                  [prepare] { return prepare(false); });
+// A rendered creature as an artist hands it over: a shaded body with a little grain on a clear ground.
+QImage renderedSprite(int side, int variant)
+{
+    QImage image(side, side, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    quint32 grain = 12345u + quint32(variant);
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            const double dx = (x - side / 2.0) / (side * 0.4);
+            const double dy = (y - side / 2.0) / (side * 0.45) + 0.05 * std::sin(variant * 0.4 + x * 0.05);
+            if (dx * dx + dy * dy > 1)
+                continue;
+            grain = grain * 1664525u + 1013904223u;
+            const int jitter = int(grain >> 29) - 4;
+            const double light = std::clamp(0.25 + 0.75 * (0.6 * std::sqrt(1 - dx * dx - dy * dy) - 0.3 * dx - 0.3 * dy),
+                                            0.0, 1.0);
+            image.setPixel(x, y, qRgb(std::clamp(int(190 * light) + 30 + jitter, 0, 255),
+                                      std::clamp(int(150 * light) + 20 - jitter, 0, 255),
+                                      std::clamp(int(110 * light + 40 * dx * dx) + jitter / 2, 0, 255)));
+        }
+    }
+    return image;
+}
+
+QImage noiseImage(int side)
+{
+    QImage image(side, side, QImage::Format_RGB32);
+    quint32 state = 99u;
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            state = state * 1664525u + 1013904223u;
+            image.setPixel(x, y, state >> 8);
+        }
+    }
+    return image;
+}
+
+constexpr int MADE_SIDE = 256;
+constexpr int MADE_FRAMES = 64;
+
+std::vector<std::vector<QImage>> madeDirections()
+{
+    std::vector<std::vector<QImage>> directions(8);
+    for (int f = 0; f < MADE_FRAMES; ++f)
+        directions[std::size_t(f % 8)].push_back(renderedSprite(MADE_SIDE, f));
+    return directions;
+}
+
+// Matching true colour to a palette (the import dialog, paste) and the two ways frames come in from a folder.
+void addArtMaking(Registrar& r, const QString& out)
+{
+    const double framePixels = double(MADE_SIDE) * MADE_SIDE;
+    const auto matching = [](QImage image, bool dither) -> Registrar::Body {
+        arcanum::Artfile::Palette palette{};
+        QString error;
+        const QImage reference = renderedSprite(MADE_SIDE, 0);
+        arcanum::ArtMaker::quantize({&reference}, palette, error);
+        auto matcher = std::make_shared<arcanum::PaletteMatcher>(palette);
+        return [matcher, image, dither] {
+            benchmark::DoNotOptimize(matcher->match(image, dither).indices.constData());
+        };
+    };
+    r.addPrepared("art match 256 x 256 sprite (pixels)", framePixels, Goal::Pixels, 20,
+                  [matching] { return matching(renderedSprite(MADE_SIDE, 3), false); });
+    r.addPrepared("art match sprite, dithered (pixels)", framePixels, Goal::None, 0,
+                  [matching] { return matching(renderedSprite(MADE_SIDE, 3), true); });
+    r.addPrepared("art match noise, every pixel new (pixels)", framePixels, Goal::None, 0,
+                  [matching] { return matching(noiseImage(MADE_SIDE), false); });
+    const double folderPixels = framePixels * MADE_FRAMES;
+    const QString folder = out + QStringLiteral("/art-folder");
+    r.addPrepared("art import, 64-frame folder", folderPixels, Goal::Seconds, 1.0, [folder]() -> Registrar::Body {
+        arcanum::Artfile art;
+        QString error;
+        arcanum::ArtMaker::make(madeDirections(), {}, art, error);
+        arcanum::ArtFolder::write(art, QStringLiteral("made"), folder, {}, error);
+        return [folder] {
+            arcanum::Artfile back;
+            QString why;
+            arcanum::ArtFolder::read(folder, back, why);
+            benchmark::DoNotOptimize(back.getImageCount());
+        };
+    });
+    r.addPrepared("art from 64 images (palette made)", folderPixels, Goal::Seconds, 1.0, []() -> Registrar::Body {
+        auto directions = std::make_shared<std::vector<std::vector<QImage>>>(madeDirections());
+        return [directions] {
+            arcanum::Artfile art;
+            QString error;
+            arcanum::ArtMaker::make(*directions, {}, art, error);
+            benchmark::DoNotOptimize(art.getImageCount());
+        };
+    });
+}
+
 void addProtos(Registrar& r, const QString& game, const QString& out)
 {
     std::vector<std::string> sources;
@@ -267,6 +407,58 @@ void addMesWidget(Registrar& r, const QString& game)
         return [widget, path] {
             widget->openFile(path);
             QApplication::processEvents();
+        };
+    });
+}
+
+// A conversation of 1 000 lines: 250 NPC lines, each offering a response onward, one back to an earlier
+// line and one that ends the conversation.
+std::shared_ptr<arcanum::DialogueFileNew> conversation()
+{
+    QString text;
+    for (int i = 0; i < 250; ++i) {
+        const int npc = i * 4 + 1;
+        text += QStringLiteral("{%1}{Line %1 of a long conversation, with some words to show}{}{}{}{}{}\n").arg(npc);
+        text += QStringLiteral("{%1}{Go on}{}{1}{}{%2}{}\n").arg(npc + 1).arg(npc + 4);
+        text += QStringLiteral("{%1}{Back}{}{1}{}{%2}{}\n").arg(npc + 2).arg((i * 37 % (i + 1)) * 4 + 1);
+        text += QStringLiteral("{%1}{Bye}{}{1}{}{0}{}\n").arg(npc + 3);
+    }
+    auto dialogue = std::make_shared<arcanum::DialogueFileNew>();
+    QTextStream stream(&text);
+    dialogue->read(stream);
+    dialogue->sortLines();
+    return dialogue;
+}
+
+// The conversation window: laid out again after every edit, shown, and scrolled a screen at a time.
+void addConversationGraph(Registrar& r)
+{
+    const double bytes = double(conversation()->toBytes().size());
+    r.addPrepared("conversation graph: layout of 1 000 lines", bytes, Goal::Seconds, 1.0, []() -> Registrar::Body {
+        const auto dialogue = conversation();
+        return [dialogue] { benchmark::DoNotOptimize(ConversationGraph::build(*dialogue).nodes().size()); };
+    });
+    r.addPrepared("conversation view: 1 000 lines laid out and shown", bytes, Goal::Seconds, 1.0,
+                  []() -> Registrar::Body {
+                      const auto dialogue = conversation();
+                      auto view = std::make_shared<ConversationView>();
+                      view->resize(900, 700);
+                      return [dialogue, view] {
+                          view->showGraph(ConversationGraph::build(*dialogue));
+                          QApplication::processEvents();
+                      };
+                  });
+    // Smooth scrolling: one frame of the viewport painted well within a 60 Hz refresh.
+    r.addPrepared("conversation view: one frame scrolled", bytes, Goal::Seconds, 1.0 / 60, []() -> Registrar::Body {
+        auto view = std::make_shared<ConversationView>();
+        view->resize(900, 700);
+        view->showGraph(ConversationGraph::build(*conversation()));
+        auto frame = std::make_shared<QImage>(view->viewport()->size(), QImage::Format_ARGB32_Premultiplied);
+        return [view, frame] {
+            QScrollBar* bar = view->verticalScrollBar();
+            bar->setValue(bar->value() + bar->pageStep() > bar->maximum() ? 0 : bar->value() + bar->pageStep());
+            QPainter painter(frame.get());
+            view->render(&painter);
         };
     });
 }
@@ -389,6 +581,49 @@ void addArchives(Registrar& r, const QString& outDir)
     });
 }
 
+double folderSize(const QString& folder)
+{
+    double total = 0;
+    QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        it.next();
+        total += double(it.fileInfo().size());
+    }
+    return total;
+}
+
+// Find in game over 10 000 small files: a text most files lack, as text and as a regular expression,
+// and the uses of a flag.
+void addFind(Registrar& r, const QString& outDir)
+{
+    const QString game = outDir + QStringLiteral("/search-game");
+    if (!QFileInfo::exists(game) && !BenchInputs::writeSearchGame(game))
+        return;
+    const double bytes = folderSize(game);
+    const auto search = [game](const arcanum::GameSearch::Query& query) {
+        return [game, query] {
+            const arcanum::GameSearch::Result result
+                = arcanum::GameSearch(query, QTextCodec::codecForName("UTF-8")).run(game, QStringLiteral("Arcanum"));
+            benchmark::DoNotOptimize(result.hits.size());
+        };
+    };
+    arcanum::GameSearch::Query text;
+    text.pattern = QString::fromLatin1(BenchInputs::SEARCHED_TEXT);
+    r.add("find in game: text, 10 000 files", bytes, Goal::Seconds, 2.0, search(text));
+    r.cases.back().files = BenchInputs::SEARCH_FILES;
+    // A regular expression is matched text by text, so every file is parsed: the slow end.
+    arcanum::GameSearch::Query expression = text;
+    expression.pattern = QStringLiteral("brass\\s+needle$");
+    expression.regex = true;
+    r.add("find in game: regex, 10 000 files", bytes, Goal::Seconds, 2.0, search(expression));
+    r.cases.back().files = BenchInputs::SEARCH_FILES;
+    arcanum::GameSearch::Query flag;
+    flag.mode = arcanum::GameSearch::Mode::Flag;
+    flag.number = 42;
+    r.add("find in game: flag 42, 10 000 files", bytes, Goal::Seconds, 2.0, search(flag));
+    r.cases.back().files = BenchInputs::SEARCH_FILES;
+}
+
 } // namespace
 
 std::string memcpyName(double bytes)
@@ -430,10 +665,14 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addDialogue(r, gameDir, outDir);
     addScript(r, gameDir, outDir);
     addArt(r, gameDir, outDir);
+    addArtPreview(r, gameDir);
+    addArtMaking(r, outDir);
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
+    addConversationGraph(r);
     addArchives(r, outDir);
     addRewrites(r, gameDir);
+    addFind(r, outDir);
     r.addMemcpys();
     return r.cases;
 }

@@ -21,6 +21,7 @@ struct BenchCase
     double bytes = 0; // processed per iteration; memcpy is timed over the same number
     Goal goal = Goal::None;
     double limit = 0; // MB/s, or seconds for Goal::Seconds
+    double files = 0; // files per iteration, for a files/s figure; 0 when the case reads one file
 };
 
 // Registers every benchmark over the inputs below gameDir, plus one memcpy per distinct byte count,

@@ -145,6 +145,39 @@ bool BenchInputs::writeDialogue(const QString& path)
     return dialogue.save(&file);
 }
 
+bool BenchInputs::writeSearchGame(const QString& gameDir)
+{
+    const QDir game(gameDir);
+    if (!game.mkpath(arcanum::MES_DIR) || !game.mkpath(arcanum::DLG_DIR))
+        return false;
+    Sequence random;
+    for (int i = 0; i < SEARCH_FILES; ++i) {
+        const QString planted = i % 100 == 0 ? QStringLiteral(" with a Brass Needle") : QString();
+        if (i % 2 == 0) {
+            arcanum::Mesfile mes;
+            for (int entry = 0; entry < 20; ++entry)
+                mes.appendEntry(QStringLiteral("{%1}{%2}").arg(i * 100 + entry).arg(sentence(random, 60) + (entry == 7 ? planted : QString())));
+            if (!mes.save(game.filePath(arcanum::MES_DIR + QStringLiteral("search%1.mes").arg(i)), QTextCodec::codecForName("UTF-8")))
+                return false;
+            continue;
+        }
+        DialogueFileNew dialogue;
+        for (int line = 1; line < 40; line += 10) {
+            dialogue.npcLines() << DialogueFileNew::NPCLinePointer(new DialogueFileNew::NPCLine(
+                line, {sentence(random, 60) + planted, {}, {}, {}, {}, {}}, QString()));
+            for (int answer = 1; answer < 3; ++answer)
+                dialogue.pcLines() << DialogueFileNew::PCLinePointer(new DialogueFileNew::PCLine(
+                    line + answer, {sentence(random, 40), {}, number(4), i % 50 == 1 ? QStringLiteral("gf 42 1") : QString(),
+                                    number(line + 10), QStringLiteral("gv 7 1")}, QString()));
+        }
+        dialogue.sortLines();
+        QFile file(game.filePath(arcanum::DLG_DIR + QStringLiteral("search%1.dlg").arg(i)));
+        if (!dialogue.save(&file))
+            return false;
+    }
+    return true;
+}
+
 // 100 000 lines: IF lines with THEN and ELSE, and DO lines, with number and object operands.
 bool BenchInputs::writeScript(const QString& path)
 {

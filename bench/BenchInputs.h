@@ -16,9 +16,16 @@ public:
     static constexpr int ART_FRAMES = 64;
     static constexpr int ART_SIDE = 256;
     static constexpr int PROTO_FILES = 10000;
+    // Small message and dialogue files for searching a whole game, half of each kind; every 100th
+    // holds the text SEARCHED_TEXT, every 50th dialogue uses global flag 42.
+    static constexpr int SEARCH_FILES = 10000;
+    static constexpr const char* SEARCHED_TEXT = "brass needle";
 
     // Writes every input below gameDir (which must exist); false when a file could not be written.
     static bool write(const QString& gameDir);
+
+    // The SEARCH_FILES files below gameDir/data; false when a file could not be written.
+    static bool writeSearchGame(const QString& gameDir);
 
     // Paths below a game directory.
     static QString mesPath(const QString& gameDir);

@@ -133,8 +133,11 @@ void printSummary(const std::vector<BenchCase>& cases, const SummaryReporter& re
         const double rate = c.bytes / found->second / MB;
         const double copyRate = c.bytes / copy->second / MB;
         char target[32];
-        std::printf("%-40s %10.1f %10.1f %12.1f %8.4f  %-12s %s\n", c.name.c_str(), found->second * 1e3, rate,
+        std::printf("%-40s %10.1f %10.1f %12.1f %8.4f  %-12s %s", c.name.c_str(), found->second * 1e3, rate,
                     copyRate, rate / copyRate, goalText(c, target, sizeof target), verdict(c, found->second, rate));
+        if (c.files > 0)
+            std::printf("  (%.0f files/s)", c.files / found->second);
+        std::printf("\n");
     }
     const double grown = peak.after - peak.before;
     std::printf("%-40s %10.1f MB peak (%.1f MB over the %.1f MB start) = %.2f x the %.1f MB file  target < 10 x  %s\n",

@@ -1,5 +1,6 @@
 #include "FuzzTargets.h"
 
+#include "ArtFolder.h"
 #include "Artfile.h"
 #include "DatArchive.h"
 #include "DatWriter.h"
@@ -7,6 +8,7 @@
 #include "FormatRegistry.h"
 #include "Mesfile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSet>
 #include <QVector>
@@ -150,6 +152,7 @@ const Target TARGETS[] = {
     {"pro", ".pro", &roundTripProto},
     {"aap", ".aap", &roundTripPalette},
     {"dat", ".dat", &roundTripArchive},
+    {"art-folder", ".json", &roundTripArtFolder},
 };
 
 } // namespace
@@ -191,6 +194,28 @@ int roundTripArt(const std::uint8_t* data, std::size_t size)
 int roundTripProto(const std::uint8_t* data, std::size_t size)
 {
     return roundTripFormat("pro", data, size, nullptr);
+}
+
+int roundTripArtFolder(const std::uint8_t* data, std::size_t size)
+{
+    const QString in = workDir().filePath(QStringLiteral("folder-in"));
+    const QString out = workDir().filePath(QStringLiteral("folder-out"));
+    QDir(in).removeRecursively();
+    QDir(out).removeRecursively();
+    QDir().mkpath(in);
+    QFile description(QDir(in).filePath(QStringLiteral("sprite.json")));
+    if (!description.open(QIODevice::WriteOnly) || description.write(reinterpret_cast<const char*>(data), qint64(size)) != qint64(size))
+        return 0;
+    description.close();
+    arcanum::Artfile art;
+    QString error;
+    if (!arcanum::ArtFolder::read(in, art, error))
+        return 0;
+    arcanum::Artfile again;
+    if (!arcanum::ArtFolder::write(art, QStringLiteral("sprite"), out, {}, error)
+        || !arcanum::ArtFolder::read(out, again, error))
+        return 1;
+    return again.toBytes() == art.toBytes() ? 0 : 1;
 }
 
 int roundTripPalette(const std::uint8_t* data, std::size_t size)

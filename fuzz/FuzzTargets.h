@@ -25,6 +25,9 @@ int roundTripScript(const std::uint8_t* data, std::size_t size);
 int roundTripArt(const std::uint8_t* data, std::size_t size);
 int roundTripProto(const std::uint8_t* data, std::size_t size);
 int roundTripPalette(const std::uint8_t* data, std::size_t size);
+// The JSON of an art folder whose frames travel without pictures: read, written as a folder and read
+// again, the art must stay the same.
+int roundTripArtFolder(const std::uint8_t* data, std::size_t size);
 // Reads every entry of an archive, packs the readable ones into a new archive and that one again.
 int roundTripArchive(const std::uint8_t* data, std::size_t size);
 

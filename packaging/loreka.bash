@@ -13,28 +13,44 @@ _loreka()
             COMPREPLY=($(compgen -W 'png bmp jpg tiff' -- "$cur"))
             return ;;
         --palette)
+            _filedir aap
+            return ;;
+        --from)
+            _filedir art
+            return ;;
+        --as)
+            COMPREPLY=($(compgen -W 'flag var script message' -- "$cur"))
+            return ;;
+        --fps|--action|--hotspot|--number)
             return ;;
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --encoding' -- "$cur"))
+        COMPREPLY=($(compgen -W '--help --version --json --palette --format --sheet --encoding --from --dither --fps --action --hotspot --regex --case --number --as' -- "$cur"))
         return
     fi
 
     local command="" sub="" i
     for ((i = 1; i < cword; i++)); do
         case ${words[i]} in
-            --palette|--format|--encoding) ((i++)) ;;
+            --palette|--format|--encoding|--from|--fps|--action|--hotspot|--number|--as) ((i++)) ;;
             -*) ;;
             *) if [[ -z $command ]]; then command=${words[i]}; elif [[ -z $sub ]]; then sub=${words[i]}; fi ;;
         esac
     done
 
     case $command in
-        "") COMPREPLY=($(compgen -W 'check dump roundtrip export dat' -- "$cur")) ;;
+        "") COMPREPLY=($(compgen -W 'check dump roundtrip export art dat find' -- "$cur")) ;;
         check) _filedir -d ;;
+        find) [[ -n $sub ]] && _filedir -d ;;
         dump|roundtrip) _filedir '@(mes|dlg|scr|art|aap|pro|dat)' ;;
         export) _filedir ;;
+        art)
+            if [[ -z $sub ]]; then
+                COMPREPLY=($(compgen -W 'export import from-images info' -- "$cur"))
+            else
+                _filedir
+            fi ;;
         dat)
             if [[ -z $sub ]]; then
                 COMPREPLY=($(compgen -W 'list extract pack verify' -- "$cur"))

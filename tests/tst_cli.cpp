@@ -297,6 +297,46 @@ private slots:
         QCOMPARE(condition["operands"][0]["type"].toString(), QStringLiteral("Number"));
     }
 
+    void findPrintsRows_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("text, any case") << QStringList{"find", "rusty"} << 0
+            << QStringList{"data/dlg/sample_dialogue.dlg:1: Welcome to the Rusty Cog, stranger. What will it be?",
+                           "data/dlg/sample_dialogue.dlg:1: Welcome to the Rusty Cog, my lady. What will it be?",
+                           "data/mes/sample_items.mes:3: Rusty dagger"};
+        QTest::newRow("text, case must match") << QStringList{"find", "--case", "rusty"} << 1 << QStringList();
+        QTest::newRow("regex inside an archive") << QStringList{"find", "--regex", "^Opened from"} << 0
+            << QStringList{"arcanum1.dat/mes/archived_notes.mes:2: Opened from arcanum1.dat"};
+        QTest::newRow("flag uses") << QStringList{"find", "--number", "12", "--as", "flag"} << 0
+            << QStringList{"data/dlg/sample_dialogue.dlg:6: line 6, test gf 12 1",
+                           "data/dlg/sample_dialogue.dlg:14: line 30, result gf 12 1",
+                           "data/scr/00003quest_giver.scr:3: IF global flag (Global Flag 12) is set",
+                           "data/scr/00003quest_giver.scr:3: ELSE set global flag (Number 12) to true"};
+        QTest::newRow("script of a prototype") << QStringList{"find", "--number", "1530", "--as", "script"} << 0
+            << QStringList{"data/proto/weapon_sword.pro:0: script point Wield on: script 1530"};
+        QTest::newRow("unused number") << QStringList{"find", "--number", "999", "--as", "var"} << 1 << QStringList();
+        QTest::newRow("number without kind") << QStringList{"find", "--number", "3"} << 2 << QStringList();
+        QTest::newRow("bad regex") << QStringList{"find", "--regex", "(x"} << 2 << QStringList();
+        QTest::newRow("unknown kind") << QStringList{"find", "--number", "3", "--as", "quest"} << 2 << QStringList();
+        QTest::newRow("kind without number") << QStringList{"find", "x", "--as", "flag"} << 2 << QStringList();
+    }
+
+    void findPrintsRows()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QStringList, rows);
+        // The game folder named, and taken from the working directory.
+        for (const Run& run : {loreka(arguments + QStringList{game}), loreka(arguments, game)}) {
+            QCOMPARE(run.code, code);
+            QCOMPARE(run.lines(), rows);
+            if (code == 2)
+                QVERIFY(run.err.contains("loreka: find: "));
+        }
+    }
+
     void datPackListExtractVerify()
     {
         const QString archive = scratch.filePath("sample.dat");
@@ -441,6 +481,9 @@ private slots:
                            "1 file checked, 1 problem"};
         QTest::newRow("check without an encoding") << QStringList{"check", "GAME"} << russian << 0
                                                    << QStringList{"1 file checked, 0 problems"};
+        QTest::newRow("find auto") << QStringList{"find", "путник", "GAME", "--encoding", "auto"} << russian << 0
+                                   << QStringList{"data/mes/FILE.mes:1: Привет, путник!"};
+        QTest::newRow("find in UTF-8") << QStringList{"find", "путник", "GAME"} << russian << 1 << QStringList();
         QTest::newRow("unknown encoding") << QStringList{"dump", "--encoding", "frob", "FILE.mes"} << utf8 << 2
                                           << QStringList();
     }
@@ -459,8 +502,10 @@ private slots:
         QVERIFY(FormatChecks::writeFile(file + (dialogue ? ".dlg" : ".mes"), bytes));
         arguments.replaceInStrings(QStringLiteral("GAME"), base);
         arguments.replaceInStrings(QStringLiteral("FILE"), file);
-        expected.replaceInStrings(QStringLiteral("GAME"), base);
-        expected.replaceInStrings(QStringLiteral("FILE"), file);
+        for (QString& line : expected) {
+            if (line.startsWith(QLatin1String("FILE")))
+                line.replace(0, 4, file);
+        }
         const Run run = loreka(arguments, scratch.path());
         QCOMPARE(run.code, code);
         QCOMPARE(run.lines().mid(0, expected.size()), expected);
@@ -499,6 +544,130 @@ private slots:
         QCOMPARE(written, files);
         for (const QString& file : files)
             QCOMPARE(QImage(QDir(out).filePath(file)).size(), size);
+    }
+
+    void artExportImportIsLossless_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("art");
+        QTest::addColumn<int>("pngs");
+        QTest::newRow("frames") << QStringList() << "sample_beetle.art" << 32;
+        QTest::newRow("sheet of palette 1") << QStringList{"--sheet", "--palette", "1"} << "sample_beetle.art" << 1;
+        QTest::newRow("raw icon") << QStringList() << "sample_potion.art" << 1;
+    }
+
+    void artExportImportIsLossless()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, art);
+        QFETCH(int, pngs);
+        const QString original = game + "/data/art/" + art;
+        const QString dir = scratch.filePath(QStringLiteral("art_export_") + QTest::currentDataTag());
+        Run run = loreka(QStringList{"art", "export", original, dir} + options);
+        QCOMPARE(run.code, 0);
+        QCOMPARE(QDir(dir).entryList({"*.png"}, QDir::Files).size(), pngs);
+        QCOMPARE(QDir(dir).entryList({"*.json"}, QDir::Files).size(), 1);
+        const QString back = dir + ".art";
+        run = loreka({"art", "import", dir, back});
+        QCOMPARE(run.code, 0);
+        QCOMPARE(FormatChecks::readFile(back), FormatChecks::readFile(original));
+    }
+
+    void artInfoListsFrames()
+    {
+        const Run run = loreka({"art", "info", game + "/data/art/sample_beetle.art"});
+        QCOMPARE(run.code, 0);
+        const QStringList lines = run.lines();
+        QCOMPARE(lines.size(), 3 + 8 * 4);
+        QVERIFY(lines.at(0).endsWith(QStringLiteral(": 8 directions of 4 frames, 2 palettes")));
+        QCOMPARE(lines.at(1), QStringLiteral("frame rate: 0 frames per second"));
+        QCOMPARE(lines.at(2), QStringLiteral("action frame: 2"));
+        QVERIFY2(QRegularExpression("^direction 7 frame 3: 48x48, hotspot 24,40, offset 0,0, run-length \\d+ bytes$")
+                     .match(lines.last()).hasMatch(),
+                 qPrintable(lines.last()));
+    }
+
+    void artFromImages()
+    {
+        const QString dir = scratch.filePath(QStringLiteral("from_images"));
+        QVERIFY(QDir().mkpath(dir + "/walk"));
+        QStringList frames;
+        for (int f = 0; f < 3; ++f) {
+            QImage image(10 + f, 12, QImage::Format_ARGB32);
+            image.fill(Qt::transparent);
+            for (int x = 2; x < 8; ++x)
+                image.setPixel(x, 5 + f, qRgb(40 * f, 200, 255 - 30 * x));
+            QVERIFY(image.save(QStringLiteral("%1/walk/%2.png").arg(dir).arg(f)));
+            frames << QStringLiteral("%1/walk/%2.png").arg(dir).arg(f);
+        }
+        Run run = loreka({"art", "from-images", frames.at(0), frames.at(2), dir + "/icons.art", "--fps", "7",
+                          "--hotspot", "4,-1", "--action", "1"});
+        QCOMPARE(run.code, 0);
+        run = loreka({"art", "info", dir + "/icons.art"});
+        QCOMPARE(run.lines().mid(0, 4),
+                 (QStringList{dir + "/icons.art: 2 images of 1 frame, 1 palette", "frame rate: 7 frames per second",
+                              "action frame: 1", "image 0 frame 0: 10x12, hotspot 4,-1, offset 0,0, run-length 11 bytes"}));
+        QStringList directions(8, dir + "/walk");
+        run = loreka(QStringList{"art", "from-images"} + directions
+                     + QStringList{dir + "/walk.art", "--dither", "--from", game + "/data/art/sample_beetle.art"});
+        QCOMPARE(run.code, 0);
+        run = loreka({"art", "info", dir + "/walk.art"});
+        QVERIFY2(run.out.contains("8 directions of 3 frames") && run.out.contains("direction 3 frame 2: 12x12, hotspot 6,11"),
+                 qPrintable(run.out));
+        QCOMPARE(FormatChecks::readFile(dir + "/walk.art").mid(132, 1024),
+                 FormatChecks::readFile(game + "/data/art/sample_beetle.art").mid(132, 1024));
+    }
+
+    void artRefusesBadInput_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("message");
+        const QString in = scratch.filePath(QStringLiteral("bad_inputs"));
+        QTest::newRow("image too large") << QStringList{"art", "from-images", in + "/huge.png", in + "/out.art"}
+                                         << in + "/huge.png: error: 70000 × 2 pixels is larger than a frame can hold";
+        QTest::newRow("empty folder to import") << QStringList{"art", "import", in + "/empty", in + "/out.art"}
+                                                << in + "/empty: error: the folder is empty";
+        QTest::newRow("empty folder of frames") << QStringList{"art", "from-images", in + "/empty", in + "/out.art"}
+                                                << in + "/empty: error: the folder holds no images";
+        QTest::newRow("sheet off its grid") << QStringList{"art", "import", in + "/sheet", in + "/out.art"}
+                                            << in + "/sheet/sample_beetle_p0.png: error: 191 × 384 pixels is not a grid";
+        QTest::newRow("JSON naming a missing PNG") << QStringList{"art", "import", in + "/frames", in + "/out.art"}
+                                                   << in + "/frames/sample_beetle_i2_f1.png: error: missing, "
+                                                          + in + "/frames/sample_beetle.json names it";
+        QTest::newRow("palette file not 1024 bytes")
+            << QStringList{"art", "from-images", in + "/ball.png", in + "/out.art", "--palette", in + "/short.aap"}
+            << in + "/short.aap: error: a palette file is 1024 bytes long, this one 1000";
+        QTest::newRow("unknown art command") << QStringList{"art", "frob"} << "art takes export, import, from-images or info";
+        QTest::newRow("bad hotspot") << QStringList{"art", "from-images", in + "/ball.png", in + "/out.art", "--hotspot", "3"}
+                                     << "--hotspot takes X,Y";
+        QTest::newRow("not an art name") << QStringList{"art", "from-images", in + "/ball.png", in + "/out.png"}
+                                         << in + "/out.png: error: the new art file's name must end in .art";
+    }
+
+    void artRefusesBadInput()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, message);
+        const QString in = scratch.filePath(QStringLiteral("bad_inputs"));
+        if (!QFileInfo::exists(in)) {
+            QVERIFY(QDir().mkpath(in + "/empty"));
+            QVERIFY(FormatChecks::writeFile(in + "/huge.png", FormatChecks::pngHeaderOnly(70000, 2)));
+            QVERIFY(FormatChecks::writeFile(in + "/short.aap", QByteArray(1000, '\1')));
+            QImage ball(8, 8, QImage::Format_RGB32);
+            ball.fill(Qt::green);
+            QVERIFY(ball.save(in + "/ball.png"));
+            const QString beetle = game + "/data/art/sample_beetle.art";
+            QCOMPARE(loreka({"art", "export", beetle, in + "/frames"}).code, 0);
+            QVERIFY(QFile::remove(in + "/frames/sample_beetle_i2_f1.png"));
+            QCOMPARE(loreka({"art", "export", "--sheet", beetle, in + "/sheet"}).code, 0);
+            const QString sheet = in + "/sheet/sample_beetle_p0.png";
+            QVERIFY(QImage(sheet).copy(0, 0, 191, 384).save(sheet));
+        }
+        const Run run = loreka(arguments);
+        QCOMPARE(run.code, 2);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        QVERIFY(!QFileInfo::exists(in + "/out.art"));
+        QVERIFY(!QFileInfo::exists(in + "/out.png"));
     }
 };
 

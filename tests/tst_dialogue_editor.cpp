@@ -238,7 +238,7 @@ private slots:
         QCOMPARE(treeNPC()->topLevelItem(1)->text(0), QStringLiteral("10: Well. There is always work for willing hands. …"));
         QCOMPARE(currentForm(), pcForm());
         QCOMPARE(pcForm()->getOriginalLine()->index(), 6);
-        QVERIFY(child<QLabel>("labelOpenLine")->text().contains(QStringLiteral("answered by NPC line 40")));
+        QVERIFY(child<QLabel>("labelOpenLine")->text().contains(QStringLiteral("answered by NPC line <a href='40'>40</a>")));
         QCOMPARE(treePC()->currentItem()->text(1), QStringLiteral("6"));
         QVERIFY(!child<QLabel>("labelLineErrors")->isVisible());
 

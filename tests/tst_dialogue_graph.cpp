@@ -29,6 +29,18 @@ const char* const CONVERSATION = "{1}{Hello there, traveller, what brings you}{}
                                  "{20}{Orphan}{}{}{}{}{}\n"
                                  "{20}{Twin}{}{}{}{}{}\n";
 
+// NPC 1 goes on with NPC 5 by its own response line; NPC 5 offers a response ending in game code -2 and
+// a join naming NPC 8 (so 8 is not unreached); NPC 9 goes on with a missing line; response 11 has an
+// opcode the game does not know.
+const char* const FLOWS = "{1}{Start}{}{}{}{5}{}\n"
+                          "{5}{Middle}{}{}{}{}{}\n"
+                          "{6}{Leave}{}{1}{}{-2}{}\n"
+                          "{7}{Join}{}{1}{}{0}{jo 8 9}\n"
+                          "{8}{Joined}{}{}{}{}{}\n"
+                          "{9}{Lost}{}{}{}{77}{}\n"
+                          "{10}{Alone}{}{}{}{}{}\n"
+                          "{11}{Odd}{}{1}{}{0}{zz 1}\n";
+
 } // namespace
 
 class TestDialogueGraph : public QObject
@@ -61,6 +73,34 @@ private slots:
         QVERIFY(node >= 0);
         QCOMPARE(graph.nodes().at(node).marks, marks);
         QCOMPARE(graph.nodes().at(node).layer, layer);
+    }
+
+    void flowMarks_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("line");
+        QTest::addColumn<int>("marks");
+        QTest::newRow("reached by an NPC line's response line") << int(Graph::Kind::Npc) << 5 << 0;
+        QTest::newRow("named by a join") << int(Graph::Kind::Npc) << 8 << 0;
+        QTest::newRow("named by a join, leads nowhere") << int(Graph::Kind::Npc) << 9 << int(Graph::Dangling);
+        QTest::newRow("nothing leads here") << int(Graph::Kind::Npc) << 10 << int(Graph::Unreached);
+        QTest::newRow("line with problems") << int(Graph::Kind::Pc) << 11 << int(Graph::Problem);
+        QTest::newRow("end") << int(Graph::Kind::End) << 0 << 0;
+        QTest::newRow("game code") << int(Graph::Kind::End) << -2 << 0;
+    }
+
+    void flowMarks()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, line);
+        QFETCH(int, marks);
+        const Graph graph = Graph::build(dialogueOf(QString::fromLatin1(FLOWS)));
+        const int node = graph.find(Graph::Kind(kind), line);
+        QVERIFY(node >= 0);
+        QCOMPARE(graph.nodes().at(node).marks, marks);
+        // Every end code has one marker, below the response that leads there.
+        if (Graph::Kind(kind) == Graph::Kind::End)
+            QVERIFY(graph.nodes().at(node).layer > 0);
     }
 
     void edgesAndEnds()

@@ -1,5 +1,7 @@
 // The window's handling of documents: the guard before work could be lost, marks, undo actions,
 // files from outside, files changed on disk and recovery copies. Every check looks at the file on disk.
+#include "ArtDocument.h"
+#include "ArtWidget.h"
 #include "MainWindow.h"
 #include "CurrentDirGuard.h"
 #include "DialogueEditWidget.h"
@@ -419,6 +421,36 @@ private slots:
             qInfo("no tool tip: %s", qPrintable(control));
         QVERIFY2(silent.isEmpty(), qPrintable(QStringLiteral("%1 without a tool tip: ").arg(silent.size())
                                               + silent.join(QStringLiteral("; "))));
+    }
+
+    // The art tree shows each art file's first frame; a save draws the icon again from the saved file.
+    void artTreeShowsFirstFrames()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.resize(1200, 800);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* tree = window.findChild<QTreeView*>(QStringLiteral("artTree"));
+        const QModelIndexList found = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole,
+                                                           QStringLiteral("sample_beetle.art"), 1,
+                                                           Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(found.size(), 1);
+        const QPersistentModelIndex beetle = found.first();
+        QTRY_VERIFY(!qvariant_cast<QIcon>(beetle.data(Qt::DecorationRole)).isNull());
+        const QImage before = qvariant_cast<QIcon>(beetle.data(Qt::DecorationRole)).pixmap(32).toImage();
+
+        // The first frame replaced by one of a single colour, saved: the icon follows.
+        window.openFiles({game.path(QStringLiteral("/data/art/sample_beetle.art"))});
+        ArtDocument* document = window.artPage()->artDocument();
+        QVERIFY(document != nullptr);
+        QImage plain(32, 32, QImage::Format_Indexed8);
+        plain.setColorCount(256);
+        plain.fill(40);
+        document->replaceFrame(0, 0, plain);
+        QString error;
+        QVERIFY2(document->save(document->path(), error), qPrintable(error));
+        QTRY_VERIFY(qvariant_cast<QIcon>(beetle.data(Qt::DecorationRole)).pixmap(32).toImage() != before);
     }
 
     void pagesFitTheWindow_data()

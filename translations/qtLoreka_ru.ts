@@ -2,6 +2,129 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>ArtAnimationWidget</name>
+    <message>
+        <source>Drag a frame to move it against its hotspot (the red cross)</source>
+        <translation>Перетащите кадр, чтобы сдвинуть его относительно точки привязки (красного крестика)</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Пуск</translation>
+    </message>
+    <message>
+        <source>Play or pause the animation</source>
+        <translation>Запустить или приостановить анимацию</translation>
+    </message>
+    <message>
+        <source>◀ Step</source>
+        <translation>◀ Шаг</translation>
+    </message>
+    <message>
+        <source>Show the frame before</source>
+        <translation>Показать предыдущий кадр</translation>
+    </message>
+    <message>
+        <source>Step ▶</source>
+        <translation>Шаг ▶</translation>
+    </message>
+    <message>
+        <source>Show the next frame</source>
+        <translation>Показать следующий кадр</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>По кругу</translation>
+    </message>
+    <message>
+        <source>Start again after the last frame</source>
+        <translation>Начинать заново после последнего кадра</translation>
+    </message>
+    <message>
+        <source>Frames per second the game plays (header word at byte 4; 0 plays at %1)</source>
+        <translation>Сколько кадров в секунду показывает игра (слово заголовка на байте 4; при 0 показывается %1)</translation>
+    </message>
+    <message>
+        <source> fps</source>
+        <translation> к/с</translation>
+    </message>
+    <message>
+        <source>The frame on which an attack or a spell takes effect (header word at byte 28)</source>
+        <translation>Кадр, на котором срабатывает удар или заклинание (слово заголовка на байте 28)</translation>
+    </message>
+    <message>
+        <source>All directions</source>
+        <translation>Все направления</translation>
+    </message>
+    <message>
+        <source>Play every image of the file side by side</source>
+        <translation>Показывать все изображения файла рядом</translation>
+    </message>
+    <message>
+        <source>Hotspot</source>
+        <translation>Точка привязки</translation>
+    </message>
+    <message>
+        <source>Show the hotspot: the pixel that stands on the object&apos;s position</source>
+        <translation>Показать точку привязки: пиксель, который стоит на месте объекта</translation>
+    </message>
+    <message>
+        <source>Frame box</source>
+        <translation>Рамка кадра</translation>
+    </message>
+    <message>
+        <source>Outline each frame&apos;s rectangle</source>
+        <translation>Обвести прямоугольник каждого кадра</translation>
+    </message>
+    <message>
+        <source>What transparent pixels show</source>
+        <translation>Что видно сквозь прозрачные пиксели</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Шахматка</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Чёрный</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Белый</translation>
+    </message>
+    <message>
+        <source>Colour…</source>
+        <translation>Цвет…</translation>
+    </message>
+    <message>
+        <source>Shown size only</source>
+        <translation>Только размер показа</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Action frame</source>
+        <translation>Кадр действия</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Фон</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Frame %1 of %2</source>
+        <translation>Кадр %1 из %2</translation>
+    </message>
+</context>
+<context>
     <name>ArtDocument</name>
     <message>
         <source>%1 (at byte %2)</source>
@@ -18,6 +141,34 @@
     <message>
         <source>frames whose pixel data is far too short for their size are listed but not drawn (%1 of them): %2</source>
         <translation>кадры, у которых данных пикселей намного меньше, чем нужно для их размера, перечислены, но не нарисованы (их %1): %2</translation>
+    </message>
+    <message>
+        <source>Frame rate %1</source>
+        <translation>Скорость %1 к/с</translation>
+    </message>
+    <message>
+        <source>Action frame %1</source>
+        <translation>Кадр действия %1</translation>
+    </message>
+    <message>
+        <source>Move frame %1 of image %2</source>
+        <translation>Сдвинуть кадр %1 изображения %2</translation>
+    </message>
+    <message>
+        <source>Replace frame %1 of image %2</source>
+        <translation>Заменить кадр %1 изображения %2</translation>
+    </message>
+    <message>
+        <source>New frame %1 of image %2</source>
+        <translation>Новый кадр %1 изображения %2</translation>
+    </message>
+    <message>
+        <source>Replace the frames of image %1</source>
+        <translation>Заменить кадры изображения %1</translation>
+    </message>
+    <message>
+        <source>Import art folder</source>
+        <translation>Импорт папки графики</translation>
     </message>
 </context>
 <context>
@@ -110,6 +261,26 @@
         <source>Exported as BMP, JPG, PNG and TIFF.</source>
         <translation>Экспортировано в BMP, JPG, PNG и TIFF.</translation>
     </message>
+    <message>
+        <source>Import image</source>
+        <translation>Импорт рисунка</translation>
+    </message>
+    <message>
+        <source>Bring a picture (PNG, BMP, GIF, TIFF, JPG) into the file, its colours matched to the palette</source>
+        <translation>Взять рисунок (PNG, BMP, GIF, TIFF, JPG) в файл, подобрав его цвета по палитре</translation>
+    </message>
+    <message>
+        <source>Replace this frame…</source>
+        <translation>Заменить этот кадр…</translation>
+    </message>
+    <message>
+        <source>As a new frame after this one…</source>
+        <translation>Новым кадром после этого…</translation>
+    </message>
+    <message>
+        <source>A folder of pictures as this whole image…</source>
+        <translation>Папку рисунков — всем этим изображением…</translation>
+    </message>
 </context>
 <context>
     <name>ArtHeaderWidget</name>
@@ -175,6 +346,32 @@
     </message>
 </context>
 <context>
+    <name>ArtImageSource</name>
+    <message>
+        <source>Images (%1);;All files (*)</source>
+        <translation>Рисунки (%1);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>%1 holds no pictures</source>
+        <translation>в %1 нет рисунков</translation>
+    </message>
+</context>
+<context>
+    <name>ArtPreview</name>
+    <message>
+        <source>No frame</source>
+        <translation>Нет кадра</translation>
+    </message>
+    <message>
+        <source>Image %1 · action</source>
+        <translation>Изображение %1 · действие</translation>
+    </message>
+    <message>
+        <source>Image %1</source>
+        <translation>Изображение %1</translation>
+    </message>
+</context>
+<context>
     <name>ArtWidget</name>
     <message>
         <source>No art file open: double-click one in the list.</source>
@@ -223,6 +420,106 @@
     <message>
         <source>Arcanum Art files (*.art);;All files (*)</source>
         <translation>Файлы графики Arcanum (*.art);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Кадр</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>Анимация</translation>
+    </message>
+    <message>
+        <source>Import a folder of pictures</source>
+        <translation>Импорт папки рисунков</translation>
+    </message>
+    <message>
+        <source>Import image</source>
+        <translation>Импорт рисунка</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1.</source>
+        <translation>Ничего не импортировано: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: only a file of %1 images (directions) can have more than one frame each, and this one has %2.</source>
+        <translation>Ничего не импортировано: больше одного кадра на изображение может быть только в файле из %1 изображений (направлений), а в этом их %2.</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no picture.</source>
+        <translation>В буфере обмена нет рисунка.</translation>
+    </message>
+    <message>
+        <source>the clipboard</source>
+        <translation>буфер обмена</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>Write every frame as a PNG with the selected palette, plus a JSON file that keeps the rest: importing the folder gives this file back</source>
+        <translation>Записать каждый кадр в PNG с выбранной палитрой и файл JSON со всем остальным: импорт этой папки вернёт этот же файл</translation>
+    </message>
+    <message>
+        <source>One PNG per frame…</source>
+        <translation>По PNG на кадр…</translation>
+    </message>
+    <message>
+        <source>One sprite sheet (images as rows, frames as columns)…</source>
+        <translation>Один лист спрайтов (изображения — строки, кадры — столбцы)…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Импорт…</translation>
+    </message>
+    <message>
+        <source>Read a folder written by Export (its PNGs may have been edited) into this file</source>
+        <translation>Прочитать в этот файл папку, записанную Экспортом (её PNG могли быть изменены)</translation>
+    </message>
+    <message>
+        <source>Export art to folder</source>
+        <translation>Экспорт графики в папку</translation>
+    </message>
+    <message>
+        <source>untitled</source>
+        <translation>без имени</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1.</source>
+        <translation>Ничего не экспортировано: %1.</translation>
+    </message>
+    <message>
+        <source>%1 written to %2.</source>
+        <translation>%1 записан в %2.</translation>
+    </message>
+    <message>
+        <source>Import art folder</source>
+        <translation>Импорт папки графики</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>New art from images</source>
+        <translation>Новая графика из рисунков</translation>
+    </message>
+    <message>
+        <source>No art file was made: %1.</source>
+        <translation>Файл графики не создан: %1.</translation>
+    </message>
+    <message>
+        <source>New art</source>
+        <translation>Новая графика</translation>
     </message>
 </context>
 <context>
@@ -401,6 +698,65 @@
     </message>
 </context>
 <context>
+    <name>DialogImportImage</name>
+    <message>
+        <source>Import image</source>
+        <translation>Импорт рисунка</translation>
+    </message>
+    <message>
+        <source>CIE94 colour difference between source and result: below 1 is hard to see, above 5 is plain to see</source>
+        <translation>Цветовое различие CIE94 между источником и результатом: меньше 1 почти незаметно, больше 5 видно сразу</translation>
+    </message>
+    <message>
+        <source>Which picture to look at</source>
+        <translation>Какой рисунок показать</translation>
+    </message>
+    <message>
+        <source>Picture </source>
+        <translation>Рисунок </translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> из %1</translation>
+    </message>
+    <message>
+        <source>Dither (Floyd–Steinberg)</source>
+        <translation>Смешение (Флойд — Стейнберг)</translation>
+    </message>
+    <message>
+        <source>Mix neighbouring colours to come closer to shades the palette lacks</source>
+        <translation>Смешивать соседние цвета, чтобы приблизиться к оттенкам, которых нет в палитре</translation>
+    </message>
+    <message>
+        <source>Put the result into the art file</source>
+        <translation>Поместить результат в файл графики</translation>
+    </message>
+    <message>
+        <source>Leave the art file as it is</source>
+        <translation>Оставить файл графики как есть</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Источник</translation>
+    </message>
+    <message>
+        <source>In the art&apos;s palette</source>
+        <translation>В палитре графики</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3 pixels</source>
+        <translation>%1, %2 × %3 пикс.</translation>
+    </message>
+    <message>
+        <source>Mean colour error %1 (this picture %2)</source>
+        <translation>Средняя ошибка цвета %1 (у этого рисунка %2)</translation>
+    </message>
+    <message>
+        <source>Mean colour error %1</source>
+        <translation>Средняя ошибка цвета %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogNewStatement</name>
     <message>
         <source>Statement</source>
@@ -537,6 +893,46 @@
     <message>
         <source>the file could not be read as dialogue lines from file line %1 on; that part is not shown but is written back unchanged after the lines</source>
         <translation>начиная со строки файла %1 файл не читается как реплики диалога; эта часть не показана, но записывается без изменений после реплик</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no line number: a line number is a whole number from 0 to 2 147 483 647.</source>
+        <translation>«%1» — не номер строки: номер строки — целое число от 0 до 2 147 483 647.</translation>
+    </message>
+    <message>
+        <source>Line %1 is already in use.</source>
+        <translation>Номер %1 уже занят.</translation>
+    </message>
+    <message>
+        <source>Add NPC line %1</source>
+        <translation>Добавить реплику NPC %1</translation>
+    </message>
+    <message>
+        <source>Add PC response %1</source>
+        <translation>Добавить ответ PC %1</translation>
+    </message>
+    <message>
+        <source>Delete NPC line %1</source>
+        <translation>Удалить реплику NPC %1</translation>
+    </message>
+    <message>
+        <source>Delete PC response %1</source>
+        <translation>Удалить ответ PC %1</translation>
+    </message>
+    <message>
+        <source>Line %1 cannot become line 0: other lines lead to it, and a response line of 0 ends the conversation.</source>
+        <translation>Строке %1 нельзя дать номер 0: на неё ведут другие строки, а строка ответа 0 завершает разговор.</translation>
+    </message>
+    <message>
+        <source>There is no line %1.</source>
+        <translation>Строки %1 нет.</translation>
+    </message>
+    <message>
+        <source>Renumber line %1 to %2</source>
+        <translation>Перенумеровать строку %1 в %2</translation>
+    </message>
+    <message>
+        <source>Delete %1 lines</source>
+        <translation>Удалить строки: %1</translation>
     </message>
 </context>
 <context>
@@ -708,6 +1104,70 @@
     <message>
         <source>File encoding:</source>
         <translation>Кодировка файла:</translation>
+    </message>
+    <message>
+        <source>Add NPC line</source>
+        <translation>Добавить реплику NPC</translation>
+    </message>
+    <message>
+        <source>Add an NPC line after the selected line</source>
+        <translation>Добавить реплику NPC после выбранной строки</translation>
+    </message>
+    <message>
+        <source>Add response</source>
+        <translation>Добавить ответ</translation>
+    </message>
+    <message>
+        <source>Add a PC response after the selected line</source>
+        <translation>Добавить ответ PC после выбранной строки</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete the selected line (Del)</source>
+        <translation>Удалить выбранную строку (Del)</translation>
+    </message>
+    <message>
+        <source>Double-click to open line %1</source>
+        <translation>Двойной щелчок открывает строку %1</translation>
+    </message>
+    <message>
+        <source>Add PC response</source>
+        <translation>Добавить ответ PC</translation>
+    </message>
+    <message>
+        <source>Number of the new line (0 to 2 147 483 647, not in use):</source>
+        <translation>Номер новой строки (от 0 до 2 147 483 647, не занятый):</translation>
+    </message>
+    <message>
+        <source>Line %1 leads to line %2. Delete it anyway?</source>
+        <translation>Строка %1 ведёт на строку %2. Всё равно удалить?</translation>
+    </message>
+    <message>
+        <source>Lines %1 lead to line %2. Delete it anyway?</source>
+        <translation>Строки %1 ведут на строку %2. Всё равно удалить?</translation>
+    </message>
+    <message>
+        <source>Delete line</source>
+        <translation>Удаление строки</translation>
+    </message>
+    <message>
+        <source>Change line number</source>
+        <translation>Изменение номера строки</translation>
+    </message>
+    <message>
+        <source>Open line</source>
+        <translation>Открытие строки</translation>
+    </message>
+    <message>
+        <source>Line %1 is not in %2.</source>
+        <translation>Строки %1 нет в %2.</translation>
+    </message>
+    <message>
+        <source>Lines %1 lead to lines %2. Delete them anyway?</source>
+        <translation>Строки %1 ведут на строки %2. Всё равно удалить их?</translation>
     </message>
 </context>
 <context>
@@ -886,16 +1346,16 @@
         <source>Adds a result at the top of the list; results happen when the character says this line</source>
         <translation>Добавляет результат в начало списка; результаты наступают, когда персонаж произносит эту реплику</translation>
     </message>
+    <message>
+        <source>The number of this line. Press Enter to change it: every line leading to it or naming it follows.</source>
+        <translation>Номер этой строки. Нажмите Enter, чтобы изменить его: все строки, которые ведут на неё или называют её, изменятся вместе с ним.</translation>
+    </message>
 </context>
 <context>
     <name>DlgPcLineEditWidget</name>
     <message>
         <source>Line number</source>
         <translation>Номер строки</translation>
-    </message>
-    <message>
-        <source>Changing of line number not yet implemented</source>
-        <translation>Изменение номера строки пока не реализовано</translation>
     </message>
     <message>
         <source>Set original data</source>
@@ -977,6 +1437,10 @@
         <source>Adds a result at the top of the list; results happen when the player chooses this response</source>
         <translation>Добавляет результат в начало списка; результаты наступают, когда игрок выбирает этот ответ</translation>
     </message>
+    <message>
+        <source>The number of this line. Press Enter to change it: every line leading to it or naming it follows.</source>
+        <translation>Номер этой строки. Нажмите Enter, чтобы изменить его: все строки, которые ведут на неё или называют её, изменятся вместе с ним.</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -1013,6 +1477,133 @@
     <message>
         <source>It reads cleanly in (the most likely first):</source>
         <translation>Без ошибок читается в (самая вероятная первой):</translation>
+    </message>
+</context>
+<context>
+    <name>FindInGameDialog</name>
+    <message>
+        <source>Find in game files</source>
+        <translation>Поиск по файлам игры</translation>
+    </message>
+    <message>
+        <source>Text of messages and dialogue lines</source>
+        <translation>Текст сообщений и реплик диалогов</translation>
+    </message>
+    <message>
+        <source>Number used as a global flag</source>
+        <translation>Число как глобальный флаг</translation>
+    </message>
+    <message>
+        <source>Number used as a global variable</source>
+        <translation>Число как глобальная переменная</translation>
+    </message>
+    <message>
+        <source>Number used as a script</source>
+        <translation>Число как номер скрипта</translation>
+    </message>
+    <message>
+        <source>Number used as a message or dialogue line</source>
+        <translation>Число как номер сообщения или реплики</translation>
+    </message>
+    <message>
+        <source>Number modes list dialogue tests and results, script statements and prototype script points that use the number</source>
+        <translation>В режимах чисел перечисляются проверки и результаты диалогов, операторы скриптов и точки скриптов прототипов, где используется это число</translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>С учётом &amp;регистра</translation>
+    </message>
+    <message>
+        <source>Regular e&amp;xpression</source>
+        <translation>Регулярное &amp;выражение</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Найти</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>File:line</source>
+        <translation>Файл:строка</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Text or use</source>
+        <translation>Текст или использование</translation>
+    </message>
+    <message>
+        <source>Double-click a result, or press Enter, to open the file there</source>
+        <translation>Дважды щёлкните результат или нажмите Enter, чтобы открыть файл в этом месте</translation>
+    </message>
+    <message>
+        <source>&amp;Search for:</source>
+        <translation>&amp;Искать:</translation>
+    </message>
+    <message>
+        <source>&amp;Mode:</source>
+        <translation>&amp;Режим:</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Искомый текст</translation>
+    </message>
+    <message>
+        <source>A whole number, e.g. 42</source>
+        <translation>Целое число, например 42</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from -2147483648 to 2147483647.</source>
+        <translation>«%1» — не целое число от -2147483648 до 2147483647.</translation>
+    </message>
+    <message>
+        <source>Cannot search: %1</source>
+        <translation>Поиск невозможен: %1</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Идёт поиск…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Cancelled after %n file(s): </source>
+        <translation>
+            <numerusform>Отменено после %n файла: </numerusform>
+            <numerusform>Отменено после %n файлов: </numerusform>
+            <numerusform>Отменено после %n файлов: </numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) searched: </source>
+        <translation>
+            <numerusform>Просмотрен %n файл: </numerusform>
+            <numerusform>Просмотрено %n файла: </numerusform>
+            <numerusform>Просмотрено %n файлов: </numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing found.</source>
+        <translation>ничего не найдено.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s).</source>
+        <translation>
+            <numerusform>%n результат.</numerusform>
+            <numerusform>%n результата.</numerusform>
+            <numerusform>%n результатов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Could not read: %1</source>
+        <translation>Не удалось прочитать: %1</translation>
+    </message>
+    <message>
+        <source>Type the text to find.</source>
+        <translation>Введите искомый текст.</translation>
     </message>
 </context>
 <context>
@@ -1354,6 +1945,26 @@ Restore them (they open modified, not saved) or discard them?</source>
 %1
 
 Восстановить их (они откроются изменёнными, но не сохранёнными) или отбросить?</translation>
+    </message>
+    <message>
+        <source>Find in &amp;game files…</source>
+        <translation>Поиск по &amp;файлам игры…</translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the game: rescan the files</source>
+        <translation>%1 больше нет в игре: пересканируйте файлы</translation>
+    </message>
+    <message>
+        <source>%1 has no entry %2 any more</source>
+        <translation>В %1 больше нет записи %2</translation>
+    </message>
+    <message>
+        <source>A&amp;rt</source>
+        <translation>&amp;Графика</translation>
+    </message>
+    <message>
+        <source>&amp;New art from images…</source>
+        <translation>&amp;Новая графика из рисунков…</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "ArtModel.h"
 
+#include "ArtThumbnails.h"
 #include "FormatRegistry.h"
 #include "GameListing.h"
 
@@ -11,10 +12,22 @@
 
 using arcanum::GameView;
 
+ArtModel::ArtModel(QObject* parent)
+    : QStandardItemModel(parent)
+    , pictures(new ArtThumbnails(this))
+{
+    connect(pictures, &ArtThumbnails::ready, this, &ArtModel::thumbnailReady);
+}
+
 void ArtModel::fill(const GameView& view)
 {
     clear();
     folders.clear();
+    rows.clear();
+    icons.clear();
+    // Files that kept their size and time keep their thumbnails; the others are drawn again.
+    pictures->revalidate();
+    const auto art = arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Art);
     QStringList suffixes = arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Art)->suffixes;
     suffixes += arcanum::FormatRegistry::byKind(arcanum::FileFormat::Kind::Palette)->suffixes;
     QVector<const GameView::File*> files = view.filesBelow(QStringLiteral("art"), suffixes);
@@ -36,8 +49,49 @@ void ArtModel::fill(const GameView& view)
         item->setData(QDir::cleanPath(view.loosePath(*file)), LoosePathRole);
         item->setToolTip(GameListing::toolTip(entry));
         item->setFont(GameListing::font(item->font(), entry));
+        if (entry.archived)
+            item->setData(view.layers().at(file->layer).path, ArchiveRole);
         folder(slash < 0 ? QString() : inside.left(slash))->appendRow(item);
+        if (arcanum::FormatRegistry::byPath(file->path) == art)
+            rows.insert(file->path, item->index());
     }
+}
+
+QVariant ArtModel::data(const QModelIndex& index, int role) const
+{
+    if (role != Qt::DecorationRole)
+        return QStandardItemModel::data(index, role);
+    const QString gamePath = QStandardItemModel::data(index, GamePathRole).toString();
+    if (gamePath.isEmpty() || !rows.contains(gamePath))
+        return QStandardItemModel::data(index, role);
+    auto found = icons.constFind(gamePath);
+    if (found != icons.constEnd())
+        return *found;
+    ArtThumbnails::Source source;
+    source.archivePath = QStandardItemModel::data(index, ArchiveRole).toString();
+    source.entry = source.archivePath.isEmpty() ? QString() : gamePath;
+    source.loosePath = QStandardItemModel::data(index, LoosePathRole).toString();
+    const QImage picture = pictures->thumbnail(gamePath, source);
+    if (picture.isNull())
+        return QVariant();
+    return *icons.insert(gamePath, QIcon(QPixmap::fromImage(picture)));
+}
+
+void ArtModel::refreshIcon(const QString& path)
+{
+    const QModelIndex row = indexOfLoose(path);
+    if (!row.isValid())
+        return;
+    icons.remove(row.data(GamePathRole).toString());
+    pictures->revalidate();
+    emit dataChanged(row, row, {Qt::DecorationRole});
+}
+
+void ArtModel::thumbnailReady(const QString& gamePath)
+{
+    const QPersistentModelIndex row = rows.value(gamePath);
+    if (row.isValid())
+        emit dataChanged(row, row, {Qt::DecorationRole});
 }
 
 QStandardItem* ArtModel::folder(const QString& path)

@@ -5,6 +5,7 @@
 #include "PageFrame.h"
 
 #include "ArtModel.h"
+#include "ArtThumbnails.h"
 #include "ArtWidget.h"
 #include "DamageBanner.h"
 #include "DialogAbout.h"
@@ -12,6 +13,7 @@
 #include "DialogOptions.h"
 #include "DialogueEditWidget.h"
 #include "DiskWatcher.h"
+#include "FindInGameDialog.h"
 #include "GameWidget.h"
 #include "Document.h"
 #include "MesWidget.h"
@@ -170,6 +172,9 @@ void MainWindow::createActions()
             box->selectAll();
         }
     });
+    actionFindInGame = new QAction(tr("Find in &game files…"), this);
+    actionFindInGame->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+F")));
+    connect(actionFindInGame, &QAction::triggered, this, &MainWindow::showFindInGame);
     actionRefresh = new QAction(tr("&Rescan files"), this);
     actionRefresh->setShortcut(QKeySequence::Refresh);
     connect(actionRefresh, &QAction::triggered, this, [this] {
@@ -188,6 +193,15 @@ void MainWindow::createMenus()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addActions({actionOpen, actionSave, actionSaveAs});
     file->addSeparator();
+    QMenu* art = file->addMenu(tr("A&rt"));
+    art->setObjectName(QStringLiteral("menuArt"));
+    QAction* newArt = art->addAction(tr("&New art from images…"));
+    newArt->setObjectName(QStringLiteral("actionNewArtFromImages"));
+    connect(newArt, &QAction::triggered, this, [this] {
+        showPage(artWidget);
+        artWidget->newFromImages();
+    });
+    file->addSeparator();
     file->addAction(ui->actionConfigure);
     file->addSeparator();
     file->addActions({ui->actionExit, actionQuit});
@@ -201,7 +215,7 @@ void MainWindow::createMenus()
     redoAction->setObjectName(QStringLiteral("actionRedo"));
     edit->addActions({undoAction, redoAction});
     edit->addSeparator();
-    edit->addActions({actionFind, actionRefresh});
+    edit->addActions({actionFind, actionFindInGame, actionRefresh});
 
     QMenu* view = menuBar()->addMenu(tr("&View"));
     auto* dock = new QDockWidget(tr("Undo history"), this);
@@ -224,6 +238,7 @@ void MainWindow::createMenus()
     actionSaveAs->setObjectName(QStringLiteral("actionSaveAs"));
     actionQuit->setObjectName(QStringLiteral("actionQuit"));
     actionFind->setObjectName(QStringLiteral("actionFind"));
+    actionFindInGame->setObjectName(QStringLiteral("actionFindInGame"));
     actionRefresh->setObjectName(QStringLiteral("actionRefresh"));
     for (QAction* action : findChildren<QAction*>()) {
         action->setToolTip(withKey(action->text().remove(QLatin1Char('&')), action->shortcut()));
@@ -302,6 +317,7 @@ void MainWindow::createArtTree()
 {
     artModel = new ArtModel(this);
     ui->artTree->setModel(artModel);
+    ui->artTree->setIconSize(QSize(ArtThumbnails::SIDE, ArtThumbnails::SIDE));
 }
 
 QString MainWindow::fullPath(const QString& subDir, const QString& name) const
@@ -455,6 +471,45 @@ bool MainWindow::openInPage(Page* page, const QString& path)
     return opened;
 }
 
+// ---- find in game ----
+
+FindInGameDialog* MainWindow::showFindInGame()
+{
+    if (findDialog == nullptr) {
+        findDialog = new FindInGameDialog(this);
+        connect(findDialog, &FindInGameDialog::hitActivated, this, &MainWindow::openHit);
+        // Another base directory or module is another game to search.
+        connect(gameWidget, &GameWidget::viewChanged, findDialog, [this] {
+            findDialog->setGame(manager.getBaseDirPath(), gameWidget->view().module(), mesWidget->getCodec());
+        });
+    }
+    findDialog->setGame(manager.getBaseDirPath(), gameWidget->view().module(), mesWidget->getCodec());
+    findDialog->show();
+    findDialog->raise();
+    findDialog->activateWindow();
+    return findDialog;
+}
+
+void MainWindow::openHit(const arcanum::GameSearch::Hit& hit)
+{
+    const arcanum::GameView& view = gameWidget->view();
+    const arcanum::GameView::File* file = view.find(hit.gamePath);
+    Page* page = pageFor(hit.gamePath);
+    if (file == nullptr || page == nullptr) {
+        statusBar()->showMessage(tr("%1 is no longer in the game: rescan the files").arg(hit.file), 5000);
+        return;
+    }
+    gameWidget->open(*file);
+    const QString opened = view.archived(*file) ? view.overridePath(*file) : view.loosePath(*file);
+    if (page->document() == nullptr || QFileInfo(page->document()->path()) != QFileInfo(opened))
+        return; // not opened: the page said why, or the user kept the file it had
+    const bool shown = page == mesWidget ? mesWidget->goToEntry(hit.entry)
+        : page == dialogueWidget         ? dialogueWidget->openLine(hit.entry)
+                                         : true;
+    if (!shown)
+        statusBar()->showMessage(tr("%1 has no entry %2 any more").arg(hit.file).arg(hit.entry), 5000);
+}
+
 // A palette file is no document of its own: it opens in the palette editor, which saves it itself.
 void MainWindow::showPaletteFile(const QString& path)
 {
@@ -589,6 +644,8 @@ void MainWindow::documentReplaced(Page* page, Document* document)
         connect(document, &Document::saved, this, [this](const QString& path) {
             watcher->savedByUs(path);
             recoveryStore->drop(path);
+            if (artModel != nullptr)
+                artModel->refreshIcon(path);
             // A new file, or the loose copy that now overrides an archived one, belongs in the lists.
             if (!listsShow(path)) {
                 manager.reloadAll();

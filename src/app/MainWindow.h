@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FileFormat.h"
+#include "GameSearch.h"
 #include "Manager.h"
 
 #include <QMainWindow>
@@ -26,6 +27,7 @@ class Ui_MainWindowClass;
 class ScriptWidget;
 class MesWidget;
 class DialogueEditWidget;
+class FindInGameDialog;
 class ArtWidget;
 class GameWidget;
 class ProtoWidget;
@@ -63,6 +65,10 @@ public:
     const std::vector<Page*>& allPages() const { return pages; }
     QUndoGroup* undoGroup() const { return undo; }
     RecoveryStore& recovery() { return *recoveryStore; }
+    // Edit › Find in game files…: shows the search over the game (made when first asked for).
+    FindInGameDialog* showFindInGame();
+    // Opens a result's file in its page, at its entry or dialogue line.
+    void openHit(const arcanum::GameSearch::Hit& hit);
     // Changes the base directory after settling every modified document; false when cancelled.
     bool changeBaseDir(const QString& path);
 
@@ -118,6 +124,7 @@ private:
     ArtWidget* artWidget = nullptr;
     ProtoWidget* protoWidget = nullptr;
     GameWidget* gameWidget = nullptr;
+    FindInGameDialog* findDialog = nullptr;
     std::vector<Page*> pages;
     std::vector<int> pageTabs;
     std::vector<DamageBanner*> banners;
@@ -135,6 +142,7 @@ private:
     QAction* actionOpen = nullptr;
     QAction* actionQuit = nullptr;
     QAction* actionFind = nullptr;
+    QAction* actionFindInGame = nullptr;
     QAction* actionRefresh = nullptr;
     QAction* actionHistory = nullptr;
     // Set while a list is put back on the file its page still shows, so that is not an open.

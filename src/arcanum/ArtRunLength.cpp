@@ -102,4 +102,10 @@ QByteArray ArtRunLength::encode(const quint8* pixels, std::size_t pixelCount)
     return out;
 }
 
+QByteArray ArtRunLength::pack(const QByteArray& pixels)
+{
+    QByteArray runs = encode(reinterpret_cast<const quint8*>(pixels.constData()), std::size_t(pixels.size()));
+    return runs.size() < pixels.size() ? runs : pixels;
+}
+
 } // namespace arcanum

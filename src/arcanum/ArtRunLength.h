@@ -27,6 +27,9 @@ public:
     // Encodes pixelCount pixels. The result never has exactly pixelCount bytes, because a frame whose
     // data size equals its pixel count is read as raw.
     static QByteArray encode(const quint8* pixels, std::size_t pixelCount);
+    // What a frame stores for these pixels: their runs when that is smaller, the raw pixels otherwise
+    // (the game reads both), so it is never larger than raw.
+    static QByteArray pack(const QByteArray& pixels);
 
 private:
     static std::size_t repeatLength(const quint8* pixels, std::size_t from, std::size_t count);

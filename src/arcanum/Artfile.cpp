@@ -52,13 +52,20 @@ bool Artfile::Colour::operator==(const Colour& other) const
 Artfile::Image::Image()
     : width(16)
     , height(16)
-    , dataSize(256)
     , left(0)
     , top(0)
     , dx(0)
     , dy(0)
-    , data(256, '\0')
+    , data(ArtRunLength::pack(QByteArray(256, '\0')))
 {
+    dataSize = quint32(data.size());
+}
+
+bool Artfile::drawable(const Image& frame)
+{
+    const quint64 pixels = quint64(frame.width) * frame.height;
+    const bool unreachable = !frame.isRaw() && pixels > ArtRunLength::mostPixels(frame.dataSize);
+    return pixels != 0 && pixels <= MAX_FRAME_PIXELS && !unreachable;
 }
 
 void Artfile::Image::setData(quint32 newWidth, quint32 newHeight, const QByteArray& bytes)
@@ -241,25 +248,48 @@ quint64 Artfile::frameDataOffset(unsigned image, unsigned frame) const
 
 QByteArray Artfile::toBytes() const
 {
-    QByteArray out;
     if (images.empty())
-        return out;
-    out.append(reinterpret_cast<const char*>(header.data()), HEADER_SIZE);
+        return {};
+    std::vector<QByteArray> paletteBytes;
     for (unsigned p = 0; p < paletteCount; ++p)
-        appendPalette(out, palettes[p]);
-    for (const std::vector<Image>& frames : images) {
-        for (const Image& frame : frames) {
+        paletteBytes.push_back(paletteToBytes(palettes[p]));
+    return assemble(headerBytes(), paletteBytes, images, trailer);
+}
+
+QByteArray Artfile::headerBytes() const
+{
+    return QByteArray(reinterpret_cast<const char*>(header.data()), HEADER_SIZE);
+}
+
+QByteArray Artfile::assemble(const QByteArray& header, const std::vector<QByteArray>& paletteBytes,
+                             const std::vector<std::vector<Image>>& frames, const QByteArray& trailer)
+{
+    QByteArray out = header;
+    for (const QByteArray& palette : paletteBytes)
+        out.append(palette);
+    for (const std::vector<Image>& row : frames) {
+        for (const Image& frame : row) {
             for (quint32 word : {frame.width, frame.height, frame.dataSize, quint32(frame.left), quint32(frame.top),
                                  quint32(frame.dx), quint32(frame.dy)})
                 le::appendUInt32(out, word);
         }
     }
-    for (const std::vector<Image>& frames : images) {
-        for (const Image& frame : frames)
+    for (const std::vector<Image>& row : frames) {
+        for (const Image& frame : row)
             out.append(frame.data);
     }
     out.append(trailer);
     return out;
+}
+
+QVector<QRgb> Artfile::colourTable(const Palette& colours, bool transparentKey)
+{
+    QVector<QRgb> table(PALETTE_SIZE);
+    for (unsigned i = 0; i < PALETTE_SIZE; ++i)
+        table[int(i)] = colours[i].toRgb();
+    if (transparentKey)
+        table[0] &= 0xFFFFFFu;
+    return table;
 }
 
 bool Artfile::save(const QString& target)
@@ -301,6 +331,12 @@ bool Artfile::combHeader()
         setHeaderWord(FRAME_COUNT, imageCount);
     }
     return true;
+}
+
+void Artfile::setActionFrame(quint32 frame)
+{
+    animationWord = frame;
+    setHeaderWord(ANIMATION_WORD, frame);
 }
 
 void Artfile::setAnimated(bool animated)
@@ -440,11 +476,7 @@ bool Artfile::convertTo(QImage& out, unsigned palette, unsigned image, unsigned 
         say("Cannot convertTo: wrong frame requested.");
         return false;
     }
-    // A run-length frame larger than its data could ever fill has a damaged size; drawing it would
-    // only cost memory and time for a picture that is nearly all blank.
-    const quint64 pixels = quint64(source->width) * source->height;
-    const bool unreachable = !source->isRaw() && pixels > ArtRunLength::mostPixels(source->dataSize);
-    if (pixels == 0 || pixels > MAX_FRAME_PIXELS || unreachable) {
+    if (!drawable(*source)) {
         say("Cannot convertTo: frame size out of range.");
         return false;
     }
@@ -453,27 +485,14 @@ bool Artfile::convertTo(QImage& out, unsigned palette, unsigned image, unsigned 
         say("Cannot convertTo: out of memory.");
         return false;
     }
-    QVector<QRgb> table(PALETTE_SIZE);
-    for (unsigned i = 0; i < PALETTE_SIZE; ++i)
-        table[int(i)] = palettes[palette][i].toRgb();
-    result.setColorTable(table);
-    fillPixels(*source, result);
+    result.setColorTable(colourTable(palettes[palette], false));
+    const QByteArray pixels = framePixels(image, frame);
+    for (int y = 0; y < result.height(); ++y)
+        std::copy_n(pixels.constData() + qsizetype(y) * result.width(), result.width(),
+                    reinterpret_cast<char*>(result.scanLine(y)));
     lastRunLength = !source->isRaw();
     out = result;
     return true;
-}
-
-void Artfile::fillPixels(const Image& frame, QImage& out) const
-{
-    const std::size_t width = frame.width;
-    std::vector<quint8> pixels(width * frame.height, 0);
-    if (frame.isRaw())
-        std::copy_n(reinterpret_cast<const quint8*>(frame.data.constData()),
-                    std::min(pixels.size(), std::size_t(frame.data.size())), pixels.begin());
-    else
-        ArtRunLength::decode(frame.data, pixels.data(), pixels.size());
-    for (int y = 0; y < out.height(); ++y)
-        std::copy_n(pixels.data() + std::size_t(y) * width, width, out.scanLine(y));
 }
 
 void Artfile::convertFrom(const QImage& source, unsigned image, unsigned frame, bool)
@@ -492,8 +511,33 @@ void Artfile::convertFrom(const QImage& source, unsigned image, unsigned frame, 
     bytes.reserve(qsizetype(width) * indexed.height());
     for (int y = 0; y < indexed.height(); ++y)
         bytes.append(reinterpret_cast<const char*>(indexed.constScanLine(y)), qsizetype(width));
-    images[image][frame].setData(quint32(indexed.width()), quint32(indexed.height()), bytes);
+    setFramePixels(image, frame, quint32(indexed.width()), quint32(indexed.height()), bytes);
+}
+
+bool Artfile::setFramePixels(unsigned image, unsigned frame, quint32 width, quint32 height, const QByteArray& indices)
+{
+    if (!isImage(image, frame) || quint64(width) * height != quint64(indices.size()) || indices.isEmpty())
+        return false;
+    images[image][frame].setData(width, height, ArtRunLength::pack(indices));
     combHeader();
+    return true;
+}
+
+QByteArray Artfile::framePixels(unsigned image, unsigned frame) const
+{
+    if (!isImage(image, frame))
+        return {};
+    const Image& source = images[image][frame];
+    if (!drawable(source))
+        return {};
+    const quint64 pixels = quint64(source.width) * source.height;
+    QByteArray out(qsizetype(pixels), '\0');
+    auto* target = reinterpret_cast<quint8*>(out.data());
+    if (source.isRaw())
+        std::copy_n(source.data.constData(), out.size(), out.data());
+    else
+        ArtRunLength::decode(source.data, target, std::size_t(pixels));
+    return out;
 }
 
 } // namespace arcanum

@@ -22,6 +22,9 @@ public:
     static constexpr unsigned PALETTE_SIZE = 256;
     static constexpr unsigned PALETTE_BYTES = 1024;
     static constexpr unsigned MAX_PALETTES = 4;
+    // Larger frames are damaged headers, not sprites; refusing them keeps one bad word from asking for
+    // gigabytes.
+    static constexpr quint64 MAX_FRAME_PIXELS = quint64(1) << 26;
 
     // One palette entry in file order: blue, green, red and a fourth byte the game leaves alone.
     struct Colour
@@ -99,6 +102,19 @@ public:
     static QByteArray paletteToBytes(const Colour (&colours)[PALETTE_SIZE]);
     static void paletteFromBytes(const QByteArray& bytes, Colour (&colours)[PALETTE_SIZE]);
 
+    // Read-only views for writers of other forms; image and frame must exist (isImage), palette be below
+    // getPaletteCount.
+    const Image& frameAt(unsigned image, unsigned frame) const { return images[image][frame]; }
+    const Palette& paletteAt(unsigned palette) const { return palettes[palette]; }
+    // The 132 header bytes as they will be written, and the bytes kept after the last frame.
+    QByteArray headerBytes() const;
+    const QByteArray& trailerBytes() const { return trailer; }
+    // The bytes of a file of these parts, in the game's order; the header must hold their counts.
+    static QByteArray assemble(const QByteArray& header, const std::vector<QByteArray>& paletteBytes,
+                               const std::vector<std::vector<Image>>& frames, const QByteArray& trailer);
+    // The palette as a colour table; with transparentKey, entry 0 has alpha 0 as the game leaves it undrawn.
+    static QVector<QRgb> colourTable(const Palette& colours, bool transparentKey);
+
     Image* getImage(unsigned image, unsigned frame);
     bool isImage(unsigned image, unsigned frame) const;
     bool newImage(unsigned);
@@ -108,11 +124,22 @@ public:
 
     bool combHeader();
     quint32 headerWord(unsigned offset) const;
+    // Frames per second the game plays the animation at (header word 4).
+    quint32 frameRate() const { return headerWord(4); }
+    void setFrameRate(quint32 framesPerSecond) { setHeaderWord(4, framesPerSecond); }
+    // The frame on which an attack or a spell takes effect (header word 28).
+    quint32 actionFrame() const { return animationWord; }
+    void setActionFrame(quint32 frame);
 
     // Frame as an 8-bit indexed image coloured with a palette; false (and out unchanged) on failure.
     bool convertTo(QImage& out, unsigned palette, unsigned image, unsigned frame);
-    // Replaces a frame's pixels and size by the indices of source; the frame becomes raw.
+    // Replaces a frame's pixels and size by the indices of source, stored as ArtRunLength::pack does.
     void convertFrom(const QImage& source, unsigned image, unsigned frame, bool);
+    // Replaces a frame's pixels (width × height palette indices, row after row) and size, stored run-length
+    // encoded when that is smaller; false for a frame that does not exist or indices of the wrong count.
+    bool setFramePixels(unsigned image, unsigned frame, quint32 width, quint32 height, const QByteArray& indices);
+    // The frame's palette indices, row after row; empty when the frame cannot be drawn (see convertTo).
+    QByteArray framePixels(unsigned image, unsigned frame) const;
     // Whether the frame last shown by convertTo was run-length encoded.
     bool lastConvertedWasRunLength() const { return lastRunLength; }
 
@@ -124,7 +151,9 @@ private:
     bool readFrameHeaders(const QByteArray& bytes, qsizetype& pos);
     bool readPixelData(const QByteArray& bytes, qsizetype& pos);
     bool fail(qsizetype offset, const QString& why);
-    void fillPixels(const Image& frame, QImage& out) const;
+    // Whether a frame's size is one a frame can have and its data could fill: larger frames are damaged
+    // headers, and drawing them would only cost memory and time for a picture that is nearly all blank.
+    static bool drawable(const Image& frame);
 
     std::string path;
     quint32 artTypeRead = 0;

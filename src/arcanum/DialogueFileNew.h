@@ -54,6 +54,12 @@ public:
         // Replaces the records; returns false and keeps the text as read when they are the same.
         bool setRecords(const QVector<dlg::TestOrResultData>& records);
         QString toString() const;
+        // Whether a test or result names that line of the file in an argument.
+        bool namesLine(int number) const;
+        // Makes the arguments naming line from name line to. A field as read changes only those
+        // numbers in its text, so the rest keeps its spelling and what could not be parsed; allowed
+        // are the types the text was read with. Returns whether anything changed.
+        bool renameLine(int from, int to, const dlg::TestOrResultTypes& allowed);
 
     protected:
         OpcodeField() = default;
@@ -62,6 +68,7 @@ public:
     private:
         // Views into the text as read: a large file has hundreds of thousands of pieces.
         void parsePiece(QStringView piece, const dlg::TestOrResultTypes& allowed);
+        static QString renamedText(const QString& text, const dlg::TestOrResultTypes& allowed, int from, int to);
         bool parseArguments(QStringView arguments, QStringView code, dlg::TestOrResultData& record);
 
         QVector<dlg::TestOrResultData> mRecords;
@@ -86,6 +93,11 @@ public:
 
         // The entry as save writes it, without line end ("\n" inside texts stays "\n").
         virtual QString getCompleteLineText() const = 0;
+        // Whether the line leads to or names the line with that number: its response line (when it is
+        // a line, not an end code) or a test or result argument.
+        virtual bool namesLine(int number) const = 0;
+        // Makes everything that names line from name line to; returns whether anything changed.
+        virtual bool renameLine(int from, int to) = 0;
 
         bool operator<(const Line& other) const { return mIndex < other.mIndex; }
         bool operator>(const Line& other) const { return mIndex > other.mIndex; }
@@ -127,6 +139,9 @@ public:
             }
         }
         void changeRecords(OpcodeField& field, const QVector<dlg::TestOrResultData>& records);
+        // For the subclasses' renameLine: a changed opcode field makes the line edited.
+        bool renameInField(OpcodeField& field, int from, int to, const dlg::TestOrResultTypes& allowed);
+        bool renameResponse(int& responseLine, int from, int to);
 
     private:
         int mIndex;
@@ -159,6 +174,8 @@ public:
         PCLine(int index, const QStringList& items, const QString& trailing, const QString& readText = QString());
 
         QString getCompleteLineText() const override;
+        bool namesLine(int number) const override;
+        bool renameLine(int from, int to) override;
 
         Gender gender() const { return mGender; }
         void setGender(Gender gender) { change(mGender, gender); }
@@ -197,6 +214,8 @@ public:
         NPCLine(int index, const QStringList& items, const QString& trailing, const QString& readText = QString());
 
         QString getCompleteLineText() const override;
+        bool namesLine(int number) const override;
+        bool renameLine(int from, int to) override;
 
         const QString& femaleText() const { return mFemaleText; }
         void setFemaleText(const QString& text) { change(mFemaleText, text); }
@@ -257,6 +276,30 @@ public:
     // Sorts both lists by index, keeping the file order of equal indices.
     void sortLines();
 
+    // Adding, removing and renumbering lines. NPC lines and PC responses share one range of numbers,
+    // 0 … MAXIMUM_LINE; the lists stay in index order, which is where save writes a new line: at the
+    // place of its number, an NPC line at the start of a line of the file, a PC response indented.
+    enum class LineKind { Npc, Pc };
+    static constexpr int MAXIMUM_LINE = 2147483647;
+    // Whether a line of either kind has that number.
+    bool hasLine(int index) const;
+    // A free number for a line added after the line numbered after: the middle of the gap before
+    // the next number in use, or the first free number above it when there is no gap; the first
+    // free number above every line when after is empty.
+    int proposedNumber(std::optional<int> after) const;
+    // A new, empty line; false when the number is in use or outside 0 … MAXIMUM_LINE.
+    bool addLine(LineKind kind, int index);
+    // Removes the first line of that kind with that number; false when there is none.
+    bool removeLine(LineKind kind, int index);
+    // The numbers of the other lines that lead to or name the line with that number, ascending,
+    // each once.
+    QList<int> linesNaming(int index) const;
+    // Gives the first line of that kind numbered from the number to. When no other line keeps the
+    // number from, every response line and every test or result argument naming it follows, and the
+    // lines so changed count as edited. False, and nothing changed, when there is no such line or to
+    // is in use or out of range.
+    bool renumberLine(LineKind kind, int from, int to);
+
     // The rest of the file from the entry where reading stopped (a short last entry or an index that is
     // not a number): not shown as lines, but written back after them so saving loses nothing.
     const QString& unreadText() const { return mUnreadText; }
@@ -283,6 +326,8 @@ public:
     }
 
 private:
+    Line* lineOf(LineKind kind, int index) const;
+
     // One entry as read: its items, the text after its seventh "}", all the physical lines read for
     // it (joined by "\n") and where its first "{" lies in them (-1: none).
     struct Entry

@@ -1,6 +1,8 @@
 // The tests and results of dialogue lines: comma-separated opcodes with their arguments.
 #include "DialogueFileNew.h"
 
+#include "OpcodeWords.h"
+
 namespace arcanum {
 
 namespace {
@@ -88,6 +90,76 @@ QString DialogueFileNew::OpcodeField::toString() const
     for (const dlg::TestOrResultData& record : mRecords)
         pieces << record.toString();
     return pieces.join(QLatin1String(", "));
+}
+
+bool DialogueFileNew::OpcodeField::namesLine(int number) const
+{
+    for (const dlg::TestOrResultData& record : mRecords)
+        for (int argument : dlg::OpcodeWords::lineArguments(record.type))
+            if ((argument == 0 ? record.value1 : record.value2) == number)
+                return true;
+    return false;
+}
+
+bool DialogueFileNew::OpcodeField::renameLine(int from, int to, const dlg::TestOrResultTypes& allowed)
+{
+    if (mReadText) {
+        const QString text = renamedText(*mReadText, allowed, from, to);
+        if (text == *mReadText)
+            return false;
+        *this = OpcodeField(text, &allowed);
+        return true;
+    }
+    QVector<dlg::TestOrResultData> records = mRecords;
+    for (dlg::TestOrResultData& record : records)
+        for (int argument : dlg::OpcodeWords::lineArguments(record.type)) {
+            qint32& value = argument == 0 ? record.value1 : record.value2;
+            if (value == from)
+                value = to;
+        }
+    return setRecords(records);
+}
+
+// Replaces only the digits of the line arguments, piece by piece: blanks, letter case and pieces that
+// are no valid opcode stay as they were.
+QString DialogueFileNew::OpcodeField::renamedText(const QString& text, const dlg::TestOrResultTypes& allowed,
+                                                  int from, int to)
+{
+    QString result;
+    result.reserve(text.size());
+    const QList<QStringView> pieces = QStringView(text).split(QLatin1Char(','));
+    for (int p = 0; p < pieces.size(); ++p) {
+        if (p > 0)
+            result += QLatin1Char(',');
+        const QStringView piece = pieces.at(p);
+        qsizetype start = 0;
+        while (start < piece.size() && piece.at(start).isSpace())
+            ++start;
+        const QList<int> lineArguments = start + 2 <= piece.size()
+                                             ? dlg::OpcodeWords::lineArguments(dlg::findType(allowed, piece.mid(start, 2)))
+                                             : QList<int>();
+        if (lineArguments.isEmpty()) {
+            result += piece;
+            continue;
+        }
+        qsizetype at = start + 2;
+        result += piece.left(at);
+        for (int argument = 0; at < piece.size(); ++argument) {
+            qsizetype blanks = at;
+            while (blanks < piece.size() && piece.at(blanks).isSpace())
+                ++blanks;
+            qsizetype end = blanks;
+            while (end < piece.size() && !piece.at(end).isSpace())
+                ++end;
+            result += piece.mid(at, blanks - at);
+            const QStringView token = piece.mid(blanks, end - blanks);
+            bool ok = false;
+            const bool renamed = lineArguments.contains(argument) && token.toInt(&ok, 10) == from && ok;
+            result += renamed ? QString::number(to) : token.toString();
+            at = end;
+        }
+    }
+    return result;
 }
 
 DialogueFileNew::Line::DialogueResultField::DialogueResultField(const QString& text,

@@ -110,6 +110,22 @@ void DialogueFileNew::Line::changeRecords(OpcodeField& field, const QVector<dlg:
         mEdited = true;
 }
 
+bool DialogueFileNew::Line::renameInField(OpcodeField& field, int from, int to, const dlg::TestOrResultTypes& allowed)
+{
+    if (!field.renameLine(from, to, allowed))
+        return false;
+    mEdited = true;
+    return true;
+}
+
+bool DialogueFileNew::Line::renameResponse(int& responseLine, int from, int to)
+{
+    if (responseLine != from)
+        return false;
+    change(responseLine, to);
+    return true;
+}
+
 DialogueFileNew::PCLine::PCLine(int index)
     : Line(index, QString(), QString(), QString())
 {
@@ -153,6 +169,20 @@ QString DialogueFileNew::PCLine::getCompleteLineText() const
                       mResults.toString()});
 }
 
+bool DialogueFileNew::PCLine::namesLine(int number) const
+{
+    return number > 0 && (mResponseLine == number || mTests.namesLine(number) || mResults.namesLine(number));
+}
+
+// Bitwise or: every place is renamed, not only the first.
+bool DialogueFileNew::PCLine::renameLine(int from, int to)
+{
+    if (from <= 0)
+        return false;
+    return renameResponse(mResponseLine, from, to) | renameInField(mTests, from, to, dlg::test::ALL_TESTS)
+           | renameInField(mResults, from, to, dlg::result::ALL_PC_RESULTS);
+}
+
 // A new line says its text and waits for the player's answer: no response line of its own.
 DialogueFileNew::NPCLine::NPCLine(int index)
     : Line(index, QString(), QString(), QString())
@@ -190,6 +220,18 @@ QString DialogueFileNew::NPCLine::getCompleteLineText() const
         return errors()->rawText;
     const QString response = mResponseLine == -1 ? QString() : QString::number(mResponseLine);
     return joinItems({mFemaleText, QString(), mTestsText, response, mResults.toString()});
+}
+
+bool DialogueFileNew::NPCLine::namesLine(int number) const
+{
+    return number > 0 && (mResponseLine == number || mResults.namesLine(number));
+}
+
+bool DialogueFileNew::NPCLine::renameLine(int from, int to)
+{
+    if (from <= 0)
+        return false;
+    return renameResponse(mResponseLine, from, to) | renameInField(mResults, from, to, dlg::result::ALL_NPC_RESULTS);
 }
 
 } // namespace arcanum

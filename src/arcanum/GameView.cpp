@@ -71,8 +71,9 @@ void GameView::addFolder(const QString& name, const QString& path)
         return;
     layerList.append(Layer{name, path, true, nullptr});
     const int layer = int(layerList.size()) - 1;
-    const QDir root(path);
-    QDirIterator it(path, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    // Absolute, so that the paths below a relative folder ("./data") come out relative to it.
+    const QDir root(QFileInfo(path).absoluteFilePath());
+    QDirIterator it(root.path(), QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         it.next();
         add(layer, root.relativeFilePath(it.filePath()), it.fileInfo().size());

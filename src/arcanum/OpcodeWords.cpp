@@ -110,6 +110,18 @@ bool OpcodeWords::namesArguments(const TestOrResultType* type)
     return argumentTable().contains(constantNames().value(type));
 }
 
+QList<int> OpcodeWords::lineArguments(const TestOrResultType* type)
+{
+    QList<int> positions;
+    if (type == nullptr || !namesArguments(type))
+        return positions;
+    const QStringList names = argumentTable().value(constantNames().value(type));
+    for (int i = 0; i < names.size() && i < type->argumentCount(); ++i)
+        if (names.at(i).startsWith(QLatin1String("line")))
+            positions.append(i);
+    return positions;
+}
+
 QString OpcodeWords::label(const TestOrResultType* type)
 {
     return type == nullptr ? QString() : QStringLiteral("%1 — %2").arg(type->code(), meaning(type));

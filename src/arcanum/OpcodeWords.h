@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -19,6 +20,9 @@ public:
     static QStringList argumentNames(const TestOrResultType* type);
     // False when those names are only the generic "value", "value 2".
     static bool namesArguments(const TestOrResultType* type);
+    // The positions (0 or 1) of the arguments that name a line of the same dialogue file: the line
+    // a float shows, the lines a join or an unwait goes on with.
+    static QList<int> lineArguments(const TestOrResultType* type);
     // "gf — global flag".
     static QString label(const TestOrResultType* type);
 };

@@ -1,5 +1,6 @@
 #include "ArtEditorWidget.h"
 
+#include "ArtPreview.h"
 #include "Artfile.h"
 #include "Prompt.h"
 #include "gui.h"
@@ -7,10 +8,10 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QPainter>
+#include <QMenu>
+#include <QPushButton>
 #include <QWheelEvent>
 
-#include <iostream>
 
 using arcanum::Artfile;
 
@@ -40,10 +41,35 @@ ArtEditorWidget::ArtEditorWidget(QWidget* parent)
     ui->view->installEventFilter(this);
     for (QSpinBox* spin : {ui->spinLeft, ui->spinTop, ui->spinDX, ui->spinDY})
         connect(spin, &QSpinBox::valueChanged, this, &ArtEditorWidget::updateValues);
+    addImportButton();
     clear();
 }
 
 ArtEditorWidget::~ArtEditorWidget() = default;
+
+void ArtEditorWidget::addImportButton()
+{
+    buttonImport = new QPushButton(tr("Import image"), this);
+    buttonImport->setObjectName(QStringLiteral("buttonImportImage"));
+    buttonImport->setToolTip(tr("Bring a picture (PNG, BMP, GIF, TIFF, JPG) into the file, its colours matched "
+                                "to the palette"));
+    auto* menu = new QMenu(buttonImport);
+    const struct
+    {
+        ImportKind kind;
+        const char* name;
+        QString text;
+    } entries[] = {{ReplaceFrame, "actionImportReplace", tr("Replace this frame…")},
+                   {NewFrame, "actionImportNewFrame", tr("As a new frame after this one…")},
+                   {WholeImage, "actionImportFolder", tr("A folder of pictures as this whole image…")}};
+    for (const auto& entry : entries) {
+        QAction* action = menu->addAction(entry.text);
+        action->setObjectName(QString::fromLatin1(entry.name));
+        connect(action, &QAction::triggered, this, [this, kind = entry.kind] { emit importRequested(kind); });
+    }
+    buttonImport->setMenu(menu);
+    ui->sideLayout->insertWidget(ui->sideLayout->indexOf(ui->buttonFromClipboard) + 1, buttonImport);
+}
 
 void ArtEditorWidget::setArtfile(Artfile* file)
 {
@@ -100,7 +126,7 @@ void ArtEditorWidget::fillValues()
 void ArtEditorWidget::setControlsEnabled(bool enabled)
 {
     for (QWidget* control : std::initializer_list<QWidget*>{ui->groupFrame, ui->buttonExport, ui->buttonToClipboard,
-                                                            ui->buttonFromClipboard})
+                                                            ui->buttonFromClipboard, buttonImport})
         control->setEnabled(enabled);
     if (!enabled)
         ui->labelInfo->clear();
@@ -137,21 +163,7 @@ QImage ArtEditorWidget::withTransparency(const QImage& indexed)
 {
     if (indexed.format() != QImage::Format_Indexed8 || indexed.colorCount() == 0)
         return indexed;
-    QImage keyed = indexed;
-    QVector<QRgb> table = keyed.colorTable();
-    const QRgb key = table.first();
-    for (QRgb& colour : table)
-        if (colour == key)
-            colour = qRgba(0, 0, 0, 0);
-    keyed.setColorTable(table);
-    QImage shown(keyed.size(), QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&shown);
-    const int square = 8;
-    for (int y = 0; y < shown.height(); y += square)
-        for (int x = 0; x < shown.width(); x += square)
-            painter.fillRect(x, y, square, square, ((x + y) / square) % 2 ? QColor(0xcc, 0xcc, 0xcc) : Qt::white);
-    painter.drawImage(0, 0, keyed);
-    return shown;
+    return ArtPreview::overCheckerboard(ArtPreview::withoutKey(indexed));
 }
 
 void ArtEditorWidget::showPicture()
@@ -226,14 +238,5 @@ void ArtEditorWidget::on_buttonToClipboard_clicked()
 
 void ArtEditorWidget::on_buttonFromClipboard_clicked()
 {
-    const QImage image = QGuiApplication::clipboard()->image();
-    if (image.isNull()) {
-        std::cout << "Clipboard is empty." << std::endl;
-        return;
-    }
-    if (!artfile)
-        return;
-    artfile->convertFrom(image, imageIndex, frameIndex, false);
-    setFrame(paletteIndex, imageIndex, frameIndex);
-    emit edited(imageIndex, frameIndex);
+    emit importRequested(Paste);
 }

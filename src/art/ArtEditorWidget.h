@@ -9,6 +9,7 @@ namespace arcanum {
 class Artfile;
 }
 class Ui_ArtEditorWidget;
+class QPushButton;
 class QSpinBox;
 
 // Shows one frame of the art file in one palette, edits its placement values and exchanges
@@ -21,6 +22,9 @@ public:
     // The picture as the game shows it: entry 0 (and its colour) over a checkerboard.
     static QImage withTransparency(const QImage& indexed);
     static constexpr int MAX_ZOOM = 8;
+    // Ways a picture comes into the file; the page asks for it and matches its colours.
+    enum ImportKind { ReplaceFrame, NewFrame, WholeImage, Paste };
+    Q_ENUM(ImportKind)
 
     explicit ArtEditorWidget(QWidget* parent = nullptr);
     ~ArtEditorWidget() override;
@@ -37,6 +41,7 @@ public:
 
 signals:
     void edited(uint image, uint frame);
+    void importRequested(ArtEditorWidget::ImportKind kind);
 
 public slots:
     void updateValues();
@@ -55,6 +60,7 @@ private:
     void showText(const QString& text);
     void fillValues();
     void setControlsEnabled(bool enabled);
+    void addImportButton();
     static bool takeSpin(const QSpinBox* spin, qint32& value);
 
     std::unique_ptr<Ui_ArtEditorWidget> ui;
@@ -64,4 +70,5 @@ private:
     unsigned frameIndex = 0;
     bool updating = false;
     QImage picture;
+    QPushButton* buttonImport = nullptr;
 };

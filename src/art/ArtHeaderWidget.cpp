@@ -33,6 +33,12 @@ void ArtHeaderWidget::setArtfile(Artfile* file)
     updateControls();
 }
 
+void ArtHeaderWidget::selectFrame(unsigned frame)
+{
+    if (int(frame) < ui->listFrames->count())
+        ui->listFrames->setCurrentRow(int(frame));
+}
+
 unsigned ArtHeaderWidget::currentPalette() const
 {
     return rowOf(ui->listPalettes);
@@ -46,6 +52,12 @@ unsigned ArtHeaderWidget::currentImage() const
 unsigned ArtHeaderWidget::currentFrame() const
 {
     return rowOf(ui->listFrames);
+}
+
+void ArtHeaderWidget::keepPlaceRefresh()
+{
+    refill(ui->listPalettes->currentRow(), ui->listImages->currentRow(), ui->listFrames->currentRow());
+    updateControls();
 }
 
 void ArtHeaderWidget::updateHeader()

@@ -22,11 +22,15 @@ public:
     ~ArtHeaderWidget() override;
 
     void setArtfile(arcanum::Artfile* file);
+    // The file changed: the lists are filled again, keeping the selected rows where they still exist.
+    void keepPlaceRefresh();
     void updateHeader();
     void updateControls();
     // Opens the palette editor on a palette, showing the selected frame; true when it was accepted.
     bool editPalette(unsigned index);
 
+    // Selects a frame row as a click would.
+    void selectFrame(unsigned frame);
     unsigned currentPalette() const;
     unsigned currentImage() const;
     unsigned currentFrame() const;

@@ -15,10 +15,14 @@ public:
 
     CommandLine();
     int run(const QStringList& arguments);
+    // Prints the message and where to find help; returns Failure.
+    static int usageError(const QString& message);
+    // The game folder a command works on: dir, or when empty the editor's base directory from
+    // "qtLoreka.ini" in the working directory, or the working directory itself.
+    static QString baseDir(const QString& dir);
 
 private:
     int dispatch(const QString& command, const QStringList& operands);
-    int usageError(const QString& message);
 
     QCommandLineParser parser;
     QCommandLineOption jsonOption;
@@ -26,4 +30,9 @@ private:
     QCommandLineOption formatOption;
     QCommandLineOption sheetOption;
     QCommandLineOption encodingOption;
+    QCommandLineOption fromOption;
+    QCommandLineOption ditherOption;
+    QCommandLineOption fpsOption;
+    QCommandLineOption actionOption;
+    QCommandLineOption hotspotOption;
 };

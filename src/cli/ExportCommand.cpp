@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "FileDump.h"
 
+#include "ArtFolder.h"
 #include "Artfile.h"
 #include "FileFormat.h"
 #include "FormatRegistry.h"
@@ -34,18 +35,9 @@ int ExportCommand::run(const QString& artPath, const QString& targetDir)
         err << "loreka: --format takes png, bmp, jpg or tiff" << Qt::endl;
         return CommandLine::Failure;
     }
-    const arcanum::FileFormat* kind = arcanum::FormatRegistry::byPath(artPath);
-    if (!kind || kind->kind != arcanum::FileFormat::Kind::Art) {
-        err << artPath << ": error: not an art file (export writes the frames of an .art file)" << Qt::endl;
-        return CommandLine::Failure;
-    }
     Artfile art;
-    art.load(QFile::encodeName(artPath).toStdString());
-    if (!art.isLoaded()) {
-        err << artPath << ": error: " << FileDump::artFailure(art)
-            << Qt::endl;
+    if (!loadArt(artPath, art))
         return CommandLine::Failure;
-    }
     if (chosenPalette >= int(art.getPaletteCount())) {
         err << artPath << ": error: has no palette " << chosenPalette << Qt::endl;
         return CommandLine::Failure;
@@ -65,13 +57,29 @@ int ExportCommand::run(const QString& artPath, const QString& targetDir)
     return CommandLine::Clean;
 }
 
+bool ExportCommand::loadArt(const QString& artPath, Artfile& art)
+{
+    QTextStream err(stderr);
+    const arcanum::FileFormat* kind = arcanum::FormatRegistry::byPath(artPath);
+    if (!kind || kind->kind != arcanum::FileFormat::Kind::Art) {
+        err << artPath << ": error: not an art file (.art)" << Qt::endl;
+        return false;
+    }
+    art.load(QFile::encodeName(artPath).toStdString());
+    if (!art.isLoaded()) {
+        err << artPath << ": error: " << FileDump::artFailure(art) << Qt::endl;
+        return false;
+    }
+    return true;
+}
+
 bool ExportCommand::exportFrames(Artfile& art, unsigned palette)
 {
     for (unsigned i = 0; i < art.getImageCount(); ++i) {
         for (unsigned f = 0; f < art.getFrameCount(); ++f) {
             QImage frame;
             // A frame too large or empty to draw is skipped: there is nothing to write.
-            if (art.convertTo(frame, palette, i, f) && !write(frame, QStringLiteral("%1_i%2_f%3").arg(name).arg(i).arg(f)))
+            if (art.convertTo(frame, palette, i, f) && !write(frame, arcanum::ArtFolder::frameFileName(name, i, f, format)))
                 return false;
         }
     }
@@ -80,16 +88,13 @@ bool ExportCommand::exportFrames(Artfile& art, unsigned palette)
 
 bool ExportCommand::exportSheet(Artfile& art, unsigned palette)
 {
-    int cellWidth = 1;
-    int cellHeight = 1;
+    const QSize cell = arcanum::ArtFolder::sheetCell(art);
+    const int cellWidth = cell.width();
+    const int cellHeight = cell.height();
     std::vector<std::vector<QImage>> frames(art.getImageCount(), std::vector<QImage>(art.getFrameCount()));
     for (unsigned i = 0; i < art.getImageCount(); ++i) {
-        for (unsigned f = 0; f < art.getFrameCount(); ++f) {
-            if (art.convertTo(frames[i][f], palette, i, f)) {
-                cellWidth = std::max(cellWidth, frames[i][f].width());
-                cellHeight = std::max(cellHeight, frames[i][f].height());
-            }
-        }
+        for (unsigned f = 0; f < art.getFrameCount(); ++f)
+            art.convertTo(frames[i][f], palette, i, f);
     }
     QImage sheetImage(cellWidth * int(std::max(art.getFrameCount(), 1u)), cellHeight * int(art.getImageCount()),
                       QImage::Format_ARGB32);
@@ -100,7 +105,7 @@ bool ExportCommand::exportSheet(Artfile& art, unsigned palette)
         for (unsigned f = 0; f < frames[i].size(); ++f)
             place(frames[i][f], sheetImage, int(f) * cellWidth, int(i) * cellHeight);
     }
-    return write(sheetImage, QStringLiteral("%1_p%2").arg(name).arg(palette));
+    return write(sheetImage, arcanum::ArtFolder::sheetFileName(name, palette, format));
 }
 
 // Copies the frame's pixels, in colour, to the top left corner of its cell.
@@ -114,9 +119,9 @@ void ExportCommand::place(const QImage& frame, QImage& target, int x, int y)
                     std::size_t(colours.width()) * 4);
 }
 
-bool ExportCommand::write(const QImage& image, const QString& stem)
+bool ExportCommand::write(const QImage& image, const QString& fileName)
 {
-    const QString path = QDir(outDir).filePath(stem + QLatin1Char('.') + format);
+    const QString path = QDir(outDir).filePath(fileName);
     // JPEG has no alpha channel and no palettes.
     const QImage saved = format == QLatin1String("jpg") ? image.convertToFormat(QImage::Format_RGB32) : image;
     if (saved.save(path, format.toLatin1().constData()))

@@ -17,11 +17,13 @@ public:
     // Only this palette; by default frames use palette 0 and sheets are made for every palette.
     void onlyPalette(int palette) { chosenPalette = palette; }
     int run(const QString& artPath, const QString& outDir);
+    // Loads an art file for a command; false after saying on standard error why it could not be.
+    static bool loadArt(const QString& artPath, arcanum::Artfile& art);
 
 private:
     bool exportFrames(arcanum::Artfile& art, unsigned palette);
     bool exportSheet(arcanum::Artfile& art, unsigned palette);
-    bool write(const QImage& image, const QString& stem);
+    bool write(const QImage& image, const QString& fileName);
     static void place(const QImage& frame, QImage& target, int x, int y);
 
     QString format;

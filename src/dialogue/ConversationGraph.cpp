@@ -1,8 +1,11 @@
 #include "ConversationGraph.h"
 
+#include "OpcodeWords.h"
+
 #include <QCoreApplication>
 #include <QHash>
 #include <QQueue>
+#include <QSet>
 
 #include <algorithm>
 #include <map>
@@ -35,6 +38,7 @@ ConversationGraph ConversationGraph::build(const arcanum::DialogueFileNew& dialo
     graph.addLines(dialogue);
     graph.markDuplicates();
     graph.addEdges(dialogue);
+    graph.markUnnamed(dialogue);
     graph.assignLayers();
     graph.placeLayers();
     return graph;
@@ -42,20 +46,22 @@ ConversationGraph ConversationGraph::build(const arcanum::DialogueFileNew& dialo
 
 int ConversationGraph::find(Kind kind, int line) const
 {
-    for (int i = 0; i < nodeList.size(); ++i)
-        if (nodeList[i].kind == kind && nodeList[i].line == line)
-            return i;
-    return -1;
+    return byLine.value(key(kind, line), -1);
 }
 
 void ConversationGraph::addLines(const arcanum::DialogueFileNew& dialogue)
 {
+    nodeList.reserve(dialogue.npcLines().size() + dialogue.pcLines().size());
     const auto add = [this](Kind kind, const arcanum::DialogueFileNew::Line& line) {
         Node node;
         node.kind = kind;
         node.line = line.index();
         node.label = firstWords(line.text());
         node.marks = line.errors() != nullptr ? Problem : 0;
+        // The first of twins is the one found.
+        const quint64 number = key(kind, node.line);
+        if (!byLine.contains(number))
+            byLine.insert(number, int(nodeList.size()));
         nodeList.append(node);
     };
     for (const auto& npc : dialogue.npcLines())
@@ -66,10 +72,10 @@ void ConversationGraph::addLines(const arcanum::DialogueFileNew& dialogue)
 
 void ConversationGraph::markDuplicates()
 {
-    QHash<quint64, int> first;
+    QHash<quint32, int> first;
     for (int i = 0; i < nodeList.size(); ++i) {
         // NPC lines and PC responses share one numbering in the file.
-        const quint64 number = quint32(nodeList[i].line);
+        const quint32 number = quint32(nodeList[i].line);
         const auto found = first.constFind(number);
         if (found == first.constEnd()) {
             first.insert(number, i);
@@ -88,22 +94,36 @@ int ConversationGraph::endNode(int code)
     Node node;
     node.kind = Kind::End;
     node.line = code;
-    node.label = code == 0 ? QCoreApplication::translate("ConversationGraph", "end") : QCoreApplication::translate("ConversationGraph", "game code %1").arg(code);
+    node.label = code == 0 ? QCoreApplication::translate("ConversationGraph", "end")
+                           : QCoreApplication::translate("ConversationGraph", "game code %1").arg(code);
+    byLine.insert(key(Kind::End, code), int(nodeList.size()));
     nodeList.append(node);
     return int(nodeList.size()) - 1;
 }
 
 void ConversationGraph::addEdges(const arcanum::DialogueFileNew& dialogue)
 {
-    QHash<quint64, int> byLine;
-    for (int i = nodeList.size() - 1; i >= 0; --i)
-        byLine.insert(key(nodeList[i].kind, nodeList[i].line), i);
+    // An NPC line may go on with an NPC line or a PC response.
+    const auto lineNode = [this](int number) {
+        const int npc = find(Kind::Npc, number);
+        return npc >= 0 ? npc : find(Kind::Pc, number);
+    };
     // Each NPC line offers the responses numbered after it, up to the next NPC line.
     std::map<int, int> npcByNumber;
     for (const auto& npc : dialogue.npcLines())
-        npcByNumber.emplace(npc->index(), byLine.value(key(Kind::Npc, npc->index())));
+        npcByNumber.emplace(npc->index(), find(Kind::Npc, npc->index()));
+    for (const auto& npc : dialogue.npcLines()) {
+        if (npc->responseLine() <= 0)
+            continue;
+        const int from = find(Kind::Npc, npc->index());
+        const int to = lineNode(npc->responseLine());
+        if (to < 0)
+            nodeList[from].marks |= Dangling;
+        else
+            edgeList.append(Edge{from, to});
+    }
     for (const auto& pc : dialogue.pcLines()) {
-        const int from = byLine.value(key(Kind::Pc, pc->index()));
+        const int from = find(Kind::Pc, pc->index());
         auto owner = npcByNumber.upper_bound(pc->index());
         if (owner != npcByNumber.begin())
             edgeList.append(Edge{std::prev(owner)->second, from});
@@ -112,7 +132,7 @@ void ConversationGraph::addEdges(const arcanum::DialogueFileNew& dialogue)
             edgeList.append(Edge{from, endNode(target)});
             continue;
         }
-        const int to = byLine.value(key(Kind::Npc, target), -1);
+        const int to = find(Kind::Npc, target);
         if (to < 0)
             nodeList[from].marks |= Dangling;
         else
@@ -120,14 +140,35 @@ void ConversationGraph::addEdges(const arcanum::DialogueFileNew& dialogue)
     }
 }
 
+// NPC lines but the first that no arrow reaches and no test or result names (a join or an unwait goes
+// on with a line too): a script may start the conversation there, or nothing ever shows them.
+void ConversationGraph::markUnnamed(const arcanum::DialogueFileNew& dialogue)
+{
+    QVector<bool> reached(nodeList.size(), false);
+    for (const Edge& edge : std::as_const(edgeList))
+        reached[edge.to] = true;
+    QSet<int> named;
+    const auto collect = [&named](const arcanum::DialogueFileNew::OpcodeField& field) {
+        for (const arcanum::dlg::TestOrResultData& record : field.records())
+            for (int argument : arcanum::dlg::OpcodeWords::lineArguments(record.type))
+                named.insert(argument == 0 ? record.value1 : record.value2);
+    };
+    for (const auto& npc : dialogue.npcLines())
+        collect(npc->results());
+    for (const auto& pc : dialogue.pcLines()) {
+        collect(pc->tests());
+        collect(pc->results());
+    }
+    for (int i = 1; i < nodeList.size(); ++i)
+        if (nodeList[i].kind == Kind::Npc && !reached[i] && !named.contains(nodeList[i].line))
+            nodeList[i].marks |= Unreached;
+}
+
 void ConversationGraph::assignLayers()
 {
     QVector<QVector<int>> next(nodeList.size());
-    QVector<int> incoming(nodeList.size(), 0);
-    for (const Edge& edge : std::as_const(edgeList)) {
+    for (const Edge& edge : std::as_const(edgeList))
         next[edge.from].append(edge.to);
-        ++incoming[edge.to];
-    }
     // Breadth first from the first NPC line, then from every line nothing reached, each below the rest.
     QVector<int> layer(nodeList.size(), -1);
     int deepest = -1;
@@ -145,16 +186,9 @@ void ConversationGraph::assignLayers()
                 }
         }
     };
-    const int first = nodeList.isEmpty() || nodeList.first().kind != Kind::Npc ? -1 : 0;
-    if (first >= 0)
-        walk(first);
-    for (int i = 0; i < nodeList.size(); ++i) {
-        if (layer[i] >= 0)
-            continue;
-        if (nodeList[i].kind == Kind::Npc && incoming[i] == 0)
-            nodeList[i].marks |= Unreached;
-        walk(i);
-    }
+    for (int i = 0; i < nodeList.size(); ++i)
+        if (layer[i] < 0)
+            walk(i);
     for (int i = 0; i < nodeList.size(); ++i)
         nodeList[i].layer = layer[i];
 }
@@ -162,12 +196,15 @@ void ConversationGraph::assignLayers()
 void ConversationGraph::placeLayers()
 {
     std::map<int, QVector<int>> layers;
+    QVector<QVector<int>> next(nodeList.size());
     for (int i = 0; i < nodeList.size(); ++i)
         layers[nodeList[i].layer].append(i);
+    for (const Edge& edge : std::as_const(edgeList))
+        next[edge.from].append(edge.to);
     QVector<double> parentX(nodeList.size(), 0);
     QVector<int> parents(nodeList.size(), 0);
     for (auto& [number, members] : layers) {
-        // Each node sits under the mean of the nodes that lead to it, which keeps arrows short and straight.
+        // Each node sits under the mean of the nodes above that lead to it, which keeps arrows short.
         std::stable_sort(members.begin(), members.end(), [&](int a, int b) {
             const double ax = parents[a] ? parentX[a] / parents[a] : 0;
             const double bx = parents[b] ? parentX[b] / parents[b] : 0;
@@ -177,11 +214,11 @@ void ConversationGraph::placeLayers()
         for (int slot = 0; slot < members.size(); ++slot) {
             Node& node = nodeList[members[slot]];
             node.position = QPointF(slot * (NODE_WIDTH + NODE_GAP) - width / 2, number * (NODE_HEIGHT + LAYER_GAP));
+            for (int to : std::as_const(next[members[slot]]))
+                if (nodeList[to].layer > number) {
+                    parentX[to] += node.position.x();
+                    ++parents[to];
+                }
         }
-        for (const Edge& edge : std::as_const(edgeList))
-            if (nodeList[edge.from].layer == number) {
-                parentX[edge.to] += nodeList[edge.from].position.x();
-                ++parents[edge.to];
-            }
     }
 }

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -15,12 +16,13 @@ namespace {
 const double ZOOM_STEP = 1.25;
 const int NODE_ROLE = 0;
 
-QPainterPath arrow(QPointF from, QPointF to)
+// A curve through two control points with its head along the last stretch.
+QPainterPath arrow(QPointF from, QPointF control1, QPointF control2, QPointF to)
 {
     QPainterPath path(from);
-    const double middle = (from.y() + to.y()) / 2;
-    path.cubicTo(QPointF(from.x(), middle), QPointF(to.x(), middle), to);
-    const double angle = std::atan2(to.y() - middle, to.x() - to.x() + 0.0001);
+    path.cubicTo(control1, control2, to);
+    const QPointF along = to - control2;
+    const double angle = std::atan2(along.y(), along.x() + 0.0001);
     const double size = 7;
     path.moveTo(to);
     path.lineTo(to - QPointF(size * std::cos(angle - 0.45), size * std::sin(angle - 0.45)));
@@ -38,7 +40,11 @@ ConversationView::ConversationView(QWidget* parent)
     setScene(new QGraphicsScene(this));
     setRenderHint(QPainter::Antialiasing);
     setDragMode(QGraphicsView::ScrollHandDrag);
+    // Scrolling a large conversation repaints only what comes into view, without saving painter state
+    // for every one of thousands of items.
     setViewportUpdateMode(QGraphicsView::MinimalViewportUpdate);
+    setOptimizationFlags(QGraphicsView::DontSavePainterState | QGraphicsView::DontAdjustForAntialiasing);
+    setCacheMode(QGraphicsView::CacheBackground);
     setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
     legend = new QLabel(this);
     legend->setObjectName(QStringLiteral("conversationLegend"));
@@ -87,8 +93,12 @@ QColor ConversationView::colourOf(const ConversationGraph::Node& node)
     return QColor(0xdd, 0xdd, 0xdd);
 }
 
+// A graph shown again after an edit keeps the place the user looks at; the first one starts at the top,
+// with the first line.
 void ConversationView::showGraph(const ConversationGraph& graph)
 {
+    const bool first = shown.nodes().isEmpty();
+    const QPointF centre = mapToScene(viewport()->rect().center());
     shown = graph;
     scene()->clear();
     const auto& nodes = shown.nodes();
@@ -97,15 +107,32 @@ void ConversationView::showGraph(const ConversationGraph& graph)
     for (int i = 0; i < nodes.size(); ++i)
         addNode(i, nodes.at(i));
     scene()->setSceneRect(scene()->itemsBoundingRect().adjusted(-40, -40, 40, 40));
+    if (!first)
+        centerOn(centre);
+    else if (!nodes.isEmpty())
+        centerOn(nodes.first().position.x(), nodes.first().position.y() + viewport()->height() / 2.0 - 60);
 }
 
+// Arrows down leave a box at its foot and enter the next at its head. An arrow back up (to an earlier
+// line or an end marker above or beside) leaves and enters on the right and bows out to the right, so
+// it does not run through the boxes of the rows between them.
 void ConversationView::addEdge(const ConversationGraph::Node& from, const ConversationGraph::Node& to)
 {
     const double half = ConversationGraph::NODE_HEIGHT / 2;
-    const QPointF start = from.position + QPointF(0, half);
-    // A line that leads back up enters its target from above like every other arrow.
-    const QPointF end = to.position - QPointF(0, half);
-    auto* item = scene()->addPath(arrow(start, end), QPen(QColor(0x55, 0x55, 0x55), 1.2));
+    QPainterPath path;
+    if (to.layer > from.layer) {
+        const QPointF start = from.position + QPointF(0, half);
+        const QPointF end = to.position - QPointF(0, half);
+        const double middle = (start.y() + end.y()) / 2;
+        path = arrow(start, QPointF(start.x(), middle), QPointF(end.x(), middle), end);
+    } else {
+        const double right = (to.kind == ConversationGraph::Kind::End ? 0.25 : 0.5) * ConversationGraph::NODE_WIDTH;
+        const QPointF start = from.position + QPointF(ConversationGraph::NODE_WIDTH / 2, 0);
+        const QPointF end = to.position + QPointF(right, 0);
+        const double bulge = std::max(start.x(), end.x()) + 30 + std::abs(start.y() - end.y()) / 6;
+        path = arrow(start, QPointF(bulge, start.y()), QPointF(bulge, end.y()), end);
+    }
+    auto* item = scene()->addPath(path, QPen(QColor(0x55, 0x55, 0x55), 1.2));
     item->setZValue(-1);
 }
 
@@ -113,8 +140,13 @@ void ConversationView::addNode(int position, const ConversationGraph::Node& node
 {
     const QRectF box(-ConversationGraph::NODE_WIDTH / 2, -ConversationGraph::NODE_HEIGHT / 2,
                      ConversationGraph::NODE_WIDTH, ConversationGraph::NODE_HEIGHT);
-    auto* rect = scene()->addRect(box, QPen(Qt::black, node.kind == ConversationGraph::Kind::Npc ? 1.5 : 1),
-                                  QBrush(colourOf(node)));
+    // Ends are round markers, lines boxes.
+    const QPen pen(Qt::black, node.kind == ConversationGraph::Kind::Npc ? 1.5 : 1);
+    QAbstractGraphicsShapeItem* rect = nullptr;
+    if (node.kind == ConversationGraph::Kind::End)
+        rect = scene()->addEllipse(box.adjusted(box.width() / 4, 0, -box.width() / 4, 0), pen, QBrush(colourOf(node)));
+    else
+        rect = scene()->addRect(box, pen, QBrush(colourOf(node)));
     rect->setPos(node.position);
     rect->setData(NODE_ROLE, position);
     rect->setFlag(QGraphicsItem::ItemIsSelectable);
@@ -124,8 +156,11 @@ void ConversationView::addNode(int position, const ConversationGraph::Node& node
     font.setPointSizeF(8.5);
     text->setFont(font);
     const QFontMetricsF metrics(font);
-    text->setText(metrics.elidedText(text->text(), Qt::ElideRight, box.width() - 10));
-    text->setPos(box.left() + 5, -metrics.height() / 2);
+    const double room = node.kind == ConversationGraph::Kind::End ? box.width() / 2 - 10 : box.width() - 10;
+    text->setText(metrics.elidedText(text->text(), Qt::ElideRight, room));
+    text->setPos(-std::min(room, metrics.horizontalAdvance(text->text())) / 2, -metrics.height() / 2);
+    if (node.kind != ConversationGraph::Kind::End)
+        text->setPos(box.left() + 5, -metrics.height() / 2);
     rect->setToolTip(number + node.label);
 }
 

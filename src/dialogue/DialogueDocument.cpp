@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTextCodec>
 
+#include <set>
+
 using arcanum::DialogueFileNew;
 
 namespace {
@@ -76,6 +78,83 @@ QString DialogueDocument::lineProblems() const
     if (count > LISTED_PROBLEMS)
         text += tr("; and %1 more").arg(count - LISTED_PROBLEMS);
     return text;
+}
+
+QString DialogueDocument::refusedNumber(const QString& text, int& number) const
+{
+    bool ok = false;
+    const qint64 value = text.trimmed().toLongLong(&ok, 10);
+    if (!ok || value < 0 || value > DialogueFileNew::MAXIMUM_LINE)
+        return tr("\"%1\" is no line number: a line number is a whole number from 0 to 2 147 483 647.")
+            .arg(text.trimmed());
+    number = int(value);
+    if (model->hasLine(number))
+        return tr("Line %1 is already in use.").arg(number);
+    return QString();
+}
+
+bool DialogueDocument::addLine(LineKind kind, int index, QString& error)
+{
+    beginEdit();
+    if (!model->addLine(kind, index)) {
+        error = refusedNumber(QString::number(index), index);
+        return false;
+    }
+    recordEdit(kind == LineKind::Npc ? tr("Add NPC line %1").arg(index) : tr("Add PC response %1").arg(index));
+    emit changed();
+    return true;
+}
+
+bool DialogueDocument::deleteLines(const QList<LineRef>& lines)
+{
+    beginEdit();
+    int deleted = 0;
+    for (const LineRef& line : lines)
+        deleted += model->removeLine(line.kind, line.index) ? 1 : 0;
+    if (deleted == 0)
+        return false;
+    if (lines.size() == 1)
+        recordEdit(lines.first().kind == LineKind::Npc ? tr("Delete NPC line %1").arg(lines.first().index)
+                                                       : tr("Delete PC response %1").arg(lines.first().index));
+    else
+        recordEdit(tr("Delete %1 lines").arg(deleted));
+    emit changed();
+    return true;
+}
+
+QList<int> DialogueDocument::linesLeadingTo(const QList<LineRef>& lines) const
+{
+    std::set<int> deleted;
+    for (const LineRef& line : lines)
+        deleted.insert(line.index);
+    std::set<int> leading;
+    for (int index : deleted)
+        for (int other : model->linesNaming(index))
+            if (deleted.count(other) == 0)
+                leading.insert(other);
+    return QList<int>(leading.begin(), leading.end());
+}
+
+// A line numbered 0 would turn every response leading to it into the end of the conversation.
+bool DialogueDocument::renumberLine(LineKind kind, int from, int to, QString& error)
+{
+    if (to == 0 && !model->linesNaming(from).isEmpty()) {
+        error = tr("Line %1 cannot become line 0: other lines lead to it, and a response line of 0 ends the "
+                   "conversation.")
+                    .arg(from);
+        return false;
+    }
+    beginEdit();
+    if (!model->renumberLine(kind, from, to)) {
+        int number = to;
+        error = refusedNumber(QString::number(to), number);
+        if (error.isEmpty())
+            error = tr("There is no line %1.").arg(from);
+        return false;
+    }
+    recordEdit(tr("Renumber line %1 to %2").arg(from).arg(to));
+    emit changed();
+    return true;
 }
 
 QString DialogueDocument::damage() const

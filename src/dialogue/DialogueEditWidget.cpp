@@ -10,6 +10,7 @@
 #include "EncodingBox.h"
 #include "EncodingStrip.h"
 #include "FileEncoding.h"
+#include "LineNumberDialog.h"
 #include "Prompt.h"
 #include "WheelGuard.h"
 #include "ui_DialogueEditWidget.h"
@@ -21,6 +22,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QTreeWidgetItemIterator>
 
@@ -33,6 +35,9 @@ namespace {
 const char* const FILE_FILTER = QT_TRANSLATE_NOOP("DialogueEditWidget", "Arcanum Dialogue files (*.dlg);;All files (*.*)");
 constexpr int INDEX_ROLE = Qt::UserRole;
 constexpr int KIND_ROLE = Qt::UserRole + 1;
+constexpr int TARGET_ROLE = Qt::UserRole + 2; // the response line of a PC line's item
+constexpr int NPC_TARGET_COLUMN = 1;         // "→ 40" under an NPC line
+constexpr int PC_TARGET_COLUMN = 0;          // the Response column of the PC tree
 constexpr int ERROR_PREVIEW_LENGTH = 80;
 const QColor DEFECT_COLOUR(0xA0, 0x10, 0x10);
 
@@ -41,6 +46,12 @@ QString firstLine(const QString& text)
 {
     const int end = text.indexOf(QLatin1Char('\n'));
     return end < 0 ? text : text.left(end) + QStringLiteral(" …");
+}
+
+// A line number in a heading that opens the line when clicked.
+QString lineLink(int line)
+{
+    return QStringLiteral("<a href='%1'>%1</a>").arg(line);
 }
 
 QString htmlLines(const QString& text)
@@ -64,6 +75,7 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     ui->mainLayout->insertWidget(ui->mainLayout->indexOf(ui->labelUnread), encoding->strip());
     setUpTrees();
     connectSignals();
+    connectLineEditing();
     ui->splitter->setStretchFactor(0, 0);
     ui->splitter->setStretchFactor(1, 1);
     ui->splitter->setSizes({300, 940});
@@ -113,6 +125,9 @@ bool DialogueEditWidget::hasChanges() const
 void DialogueEditWidget::showDocument()
 {
     formEdited = false;
+    history.clear();
+    selected = OpenLine();
+    selectedTree = nullptr;
     closeLine();
     if (DialogueDocument* shown = dialogueDocument()) {
         shown->beginEdit();
@@ -123,6 +138,13 @@ void DialogueEditWidget::showDocument()
             closeLine();
             fillTrees();
             reopen(wasOpen);
+            // Undoing or redoing a renumbering keeps its line open under the number it has now.
+            if (open.kind == LineKind::None && wasOpen.kind == renumbered.first.kind) {
+                if (wasOpen.index == renumbered.second.index)
+                    reopen(renumbered.first);
+                else if (wasOpen.index == renumbered.first.index)
+                    reopen(renumbered.second);
+            }
             refreshGraph();
             updateControls();
         });
@@ -208,10 +230,13 @@ void DialogueEditWidget::updateControls()
 {
     const bool loaded = dialogueDocument() != nullptr;
     const bool modified = hasChanges();
-    const QList<QWidget*> editingControls = {ui->buttonSaveAs, ui->buttonGraph, ui->treeNPC, ui->treePC,
-                                             ui->radioNPC, ui->radioPC, ui->formPanel};
+    const QList<QWidget*> editingControls = {ui->buttonSaveAs, ui->buttonGraph, ui->treeNPC,    ui->treePC,
+                                             ui->radioNPC,     ui->radioPC,     ui->formPanel, ui->buttonAddNpc,
+                                             ui->buttonAddPc};
     for (QWidget* widget : editingControls)
         widget->setEnabled(loaded);
+    ui->buttonDelete->setEnabled(loaded && !selectedLines().isEmpty());
+    updateHistoryButtons();
     ui->labelModified->setVisible(loaded && modified && !isFramed());
 }
 
@@ -337,6 +362,8 @@ QTreeWidgetItem* DialogueEditWidget::pcChildItem(const DialogueFileNew::PCLine& 
     auto* item = new QTreeWidgetItem({tr("PC response line:") + QStringLiteral(" %1: %2").arg(line.index()).arg(firstLine(line.text())),
                                       QStringLiteral("→ %1").arg(line.responseLine())});
     describe(item, line, static_cast<int>(LineKind::Pc));
+    item->setData(0, TARGET_ROLE, line.responseLine());
+    item->setToolTip(NPC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
     return item;
 }
 
@@ -345,20 +372,24 @@ QTreeWidgetItem* DialogueEditWidget::pcItem(const DialogueFileNew::PCLine& line)
     auto* item = new QTreeWidgetItem(
         {QString::number(line.responseLine()), QString::number(line.index()), firstLine(line.text())});
     describe(item, line, static_cast<int>(LineKind::Pc));
+    item->setData(0, TARGET_ROLE, line.responseLine());
+    item->setToolTip(PC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
     return item;
 }
 
-// The item is read before the line opens: opening may rebuild the tree.
+// The item is read before the line opens: opening may rebuild the tree. A double click on a response's
+// target opens the line it leads to.
 void DialogueEditWidget::on_treeNPC_itemDoubleClicked(QTreeWidgetItem* item, int column)
 {
     if (!item)
         return;
     const int index = item->data(0, INDEX_ROLE).toInt();
-    const bool npcLine = item->text(1).isEmpty();
-    qDebug("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): treeNPC col %d line %d", column, index);
-    if (npcLine && !openNpcLine(index))
+    const bool npcLine = item->data(0, KIND_ROLE).toInt() == static_cast<int>(LineKind::Npc);
+    if (!npcLine && column == NPC_TARGET_COLUMN)
+        openTarget(item->data(0, TARGET_ROLE).toInt());
+    else if (npcLine && !openNpcLine(index))
         qWarning("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): no npc line with index %d found", index);
-    if (!npcLine && !openPcLine(index))
+    else if (!npcLine && !openPcLine(index))
         qWarning("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): no pc line with index %d found", index);
 }
 
@@ -366,13 +397,15 @@ void DialogueEditWidget::on_treePC_itemDoubleClicked(QTreeWidgetItem* item, int 
 {
     if (!item)
         return;
-    const int index = item->data(0, INDEX_ROLE).toInt();
-    qDebug("DialogueEditWidget::on_treeNPC_itemDoubleClicked(): treePC col %d line %d", column, index);
-    if (!openPcLine(index))
-        return;
-    const int response = ui->pcForm->getOriginalLine()->responseLine();
-    if (!getModel()->getNPCLine(response))
-        qWarning("DialogueEditWidget::on_treePC_itemDoubleClicked(): no npc line with index %d found", response);
+    if (column == PC_TARGET_COLUMN)
+        openTarget(item->data(0, TARGET_ROLE).toInt());
+    else
+        openPcLine(item->data(0, INDEX_ROLE).toInt());
+}
+
+bool DialogueEditWidget::openLine(int index)
+{
+    return openNpcLine(index) || openPcLine(index);
 }
 
 bool DialogueEditWidget::openPcLine(int index)
@@ -393,7 +426,12 @@ bool DialogueEditWidget::openLine(const OpenLine& line, QWidget* form, const std
     fill();
     showForm(form);
     open = line;
+    history.visit({static_cast<int>(line.kind), line.index});
+    if (graph != nullptr && graphWindow->isVisible())
+        graph->focusLine(line.kind == LineKind::Pc ? ConversationGraph::Kind::Pc : ConversationGraph::Kind::Npc,
+                         line.index);
     showOpenLine();
+    updateControls();
     return true;
 }
 
@@ -429,7 +467,7 @@ void DialogueEditWidget::closeLine()
 // Only a form with changes is applied, so opening lines one after another keeps the trees still.
 void DialogueEditWidget::applyPendingForm()
 {
-    if (DlgLineEditWidget* form = openForm(); form && form->hasPendingChanges())
+    if (DlgLineEditWidget* form = openForm(); form && (form->hasPendingChanges() || formEdited))
         saveLineEditChangesToMem();
 }
 
@@ -492,7 +530,7 @@ QString DialogueEditWidget::describeOpenLine() const
         const DialogueFileNew::NPCLinePointer line = ui->npcForm->getOriginalLine();
         QString text = tr("<b>NPC line %1</b>").arg(open.index);
         if (line && line->responseLine() >= 0)
-            text += tr(" — goes on with line %1").arg(line->responseLine());
+            text += tr(" — goes on with line %1").arg(lineLink(line->responseLine()));
         return text;
     }
     const DialogueFileNew::PCLinePointer line = ui->pcForm->getOriginalLine();
@@ -501,7 +539,7 @@ QString DialogueEditWidget::describeOpenLine() const
         return QString();
     QString text = tr("<b>PC line %1</b>").arg(open.index);
     if (const DialogueFileNew::NPCLinePointer answer = dlgfile->getNPCLine(line->responseLine()))
-        text += tr(" — answered by NPC line %1: %2").arg(answer->index()).arg(firstLine(answer->text()).toHtmlEscaped());
+        text += tr(" — answered by NPC line %1: %2").arg(lineLink(answer->index())).arg(firstLine(answer->text()).toHtmlEscaped());
     else
         text += tr(" — response line %1 is no NPC line of this file").arg(line->responseLine());
     return text;
@@ -556,6 +594,188 @@ void DialogueEditWidget::selectOpenLine()
             }
         }
     }
+}
+
+void DialogueEditWidget::connectLineEditing()
+{
+    for (DlgLineEditWidget* form : QList<DlgLineEditWidget*>{ui->pcForm, ui->npcForm}) {
+        connect(form, &DlgLineEditWidget::newLineNumber, this, &DialogueEditWidget::renumberOpenLine);
+        connect(form, &DlgLineEditWidget::targetActivated, this, &DialogueEditWidget::openTarget);
+    }
+    ui->labelOpenLine->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    connect(ui->labelOpenLine, &QLabel::linkActivated, this, [this](const QString& link) { openTarget(link.toInt()); });
+    for (QTreeWidget* tree : {ui->treeNPC, ui->treePC}) {
+        tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        connect(tree, &QTreeWidget::currentItemChanged, this, [this, tree](QTreeWidgetItem* item) {
+            selectedTree = tree;
+            selected = item ? OpenLine{static_cast<LineKind>(item->data(0, KIND_ROLE).toInt()),
+                                       item->data(0, INDEX_ROLE).toInt()}
+                            : OpenLine();
+            ui->buttonDelete->setEnabled(dialogueDocument() != nullptr && !selectedLines().isEmpty());
+        });
+        auto* shortcut = new QShortcut(QKeySequence::Delete, tree, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, &DialogueEditWidget::deleteSelectedLines);
+    }
+}
+
+DialogueFileNew::LineKind DialogueEditWidget::modelKind(LineKind kind)
+{
+    return kind == LineKind::Npc ? DialogueFileNew::LineKind::Npc : DialogueFileNew::LineKind::Pc;
+}
+
+DialogueEditWidget::OpenLine DialogueEditWidget::selectedLine() const
+{
+    const DialogueFileNew* dialogue = getModel();
+    const auto exists = [dialogue](const OpenLine& line) {
+        return dialogue != nullptr
+               && ((line.kind == LineKind::Npc && dialogue->getNPCLine(line.index))
+                   || (line.kind == LineKind::Pc && dialogue->getPCLine(line.index)));
+    };
+    if (exists(selected))
+        return selected;
+    return exists(open) ? open : OpenLine();
+}
+
+void DialogueEditWidget::on_buttonAddNpc_clicked()
+{
+    addLine(LineKind::Npc);
+}
+
+void DialogueEditWidget::on_buttonAddPc_clicked()
+{
+    addLine(LineKind::Pc);
+}
+
+void DialogueEditWidget::on_buttonDelete_clicked()
+{
+    deleteSelectedLines();
+}
+
+// The number offered lies in the gap after the selected line; a number the line cannot have is
+// refused with a message and asked for again.
+void DialogueEditWidget::addLine(LineKind kind)
+{
+    DialogueDocument* shown = dialogueDocument();
+    if (shown == nullptr)
+        return;
+    applyPendingForm();
+    const OpenLine after = selectedLine();
+    const int proposed = shown->dialogue().proposedNumber(after.kind == LineKind::None ? std::nullopt
+                                                                                      : std::optional<int>(after.index));
+    const QString title = kind == LineKind::Npc ? tr("Add NPC line") : tr("Add PC response");
+    LineNumberDialog dialog(title, tr("Number of the new line (0 to 2 147 483 647, not in use):"), proposed, this);
+    while (Prompt::run(dialog) == QDialog::Accepted) {
+        int number = 0;
+        QString refused = shown->refusedNumber(dialog.text(), number);
+        if (refused.isEmpty() && shown->addLine(modelKind(kind), number, refused)) {
+            reopen({kind, number});
+            return;
+        }
+        Prompt::message(this, QMessageBox::Warning, title, refused);
+    }
+}
+
+QList<DialogueEditWidget::OpenLine> DialogueEditWidget::selectedLines() const
+{
+    QList<OpenLine> lines;
+    if (selectedTree != nullptr)
+        for (const QTreeWidgetItem* item : selectedTree->selectedItems())
+            lines.append({static_cast<LineKind>(item->data(0, KIND_ROLE).toInt()), item->data(0, INDEX_ROLE).toInt()});
+    if (lines.isEmpty() && selectedLine().kind != LineKind::None)
+        lines.append(selectedLine());
+    return lines;
+}
+
+// Lines that lead to the ones deleted would lead nowhere afterwards: the user sees which and decides.
+void DialogueEditWidget::deleteSelectedLines()
+{
+    DialogueDocument* shown = dialogueDocument();
+    const QList<OpenLine> lines = selectedLines();
+    if (shown == nullptr || lines.isEmpty())
+        return;
+    applyPendingForm();
+    QList<DialogueDocument::LineRef> refs;
+    QStringList deleted;
+    for (const OpenLine& line : lines) {
+        refs.append({modelKind(line.kind), line.index});
+        deleted << QString::number(line.index);
+    }
+    const QList<int> naming = shown->linesLeadingTo(refs);
+    if (!naming.isEmpty()) {
+        QStringList numbers;
+        for (int number : naming)
+            numbers << QString::number(number);
+        const QString list = numbers.join(QStringLiteral(", "));
+        QString text;
+        if (lines.size() > 1)
+            text = tr("Lines %1 lead to lines %2. Delete them anyway?").arg(list, deleted.join(QStringLiteral(", ")));
+        else if (naming.size() == 1)
+            text = tr("Line %1 leads to line %2. Delete it anyway?").arg(list, deleted.first());
+        else
+            text = tr("Lines %1 lead to line %2. Delete it anyway?").arg(list, deleted.first());
+        if (Prompt::question(this, tr("Delete line"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+            != QMessageBox::Yes)
+            return;
+    }
+    selected = OpenLine();
+    selectedTree = nullptr;
+    shown->deleteLines(refs);
+}
+
+// The form's edits go in first, as a step of their own; the renumbering with every reference is the next.
+void DialogueEditWidget::renumberOpenLine(int number)
+{
+    DialogueDocument* shown = dialogueDocument();
+    const OpenLine was = open;
+    if (shown == nullptr || was.kind == LineKind::None)
+        return;
+    applyPendingForm();
+    QString error;
+    if (!shown->renumberLine(modelKind(was.kind), was.index, number, error)) {
+        Prompt::message(this, QMessageBox::Warning, tr("Change line number"), error);
+        reopen(was);
+        return;
+    }
+    history.renumber(static_cast<int>(was.kind), was.index, number);
+    renumbered = {was, {was.kind, number}};
+    reopen({was.kind, number});
+}
+
+void DialogueEditWidget::openTarget(int line)
+{
+    if (line <= 0 || getModel() == nullptr)
+        return;
+    if (!openLine(line))
+        Prompt::message(this, QMessageBox::Information, tr("Open line"),
+                        tr("Line %1 is not in %2.").arg(line).arg(document()->displayName()));
+}
+
+void DialogueEditWidget::on_buttonPrevious_clicked()
+{
+    moveInHistory([this] { return history.back(); });
+}
+
+void DialogueEditWidget::on_buttonForward_clicked()
+{
+    moveInHistory([this] { return history.forward(); });
+}
+
+// Lines deleted since they were opened are passed over.
+void DialogueEditWidget::moveInHistory(const std::function<std::optional<LineHistory::Entry>()>& step)
+{
+    while (const std::optional<LineHistory::Entry> entry = step()) {
+        const OpenLine line{static_cast<LineKind>(entry->kind), entry->number};
+        if ((line.kind == LineKind::Pc && openPcLine(line.index)) || (line.kind == LineKind::Npc && openNpcLine(line.index)))
+            break;
+    }
+    updateHistoryButtons();
+}
+
+void DialogueEditWidget::updateHistoryButtons()
+{
+    const bool loaded = dialogueDocument() != nullptr;
+    ui->buttonPrevious->setEnabled(loaded && history.canGoBack());
+    ui->buttonForward->setEnabled(loaded && history.canGoForward());
 }
 
 void DialogueEditWidget::changeEvent(QEvent* event)

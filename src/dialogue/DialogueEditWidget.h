@@ -1,12 +1,15 @@
 #pragma once
 
 #include "DialogueFileNew.h"
+#include "LineHistory.h"
 #include "Page.h"
 
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <utility>
 
 class ConversationView;
 class FileEncoding;
@@ -37,6 +40,10 @@ public:
     // Writes the open form into its line and puts both line lists in index order.
     void saveLineEditChangesToMem();
 
+    // Opens the line with that number in its form: the NPC line, or the PC response when no NPC line
+    // has it; false when the file has no line with that number. Other pages open a dialogue at a line
+    // through this.
+    bool openLine(int index);
     // Opens the line with that index in its form; false when there is none.
     bool openPcLine(int index);
     bool openNpcLine(int index);
@@ -58,6 +65,11 @@ public slots:
     void rebuildPCList();
     void rebuildNPCList();
     void setModifiedState();
+    void on_buttonAddNpc_clicked();
+    void on_buttonAddPc_clicked();
+    void on_buttonDelete_clicked();
+    void on_buttonPrevious_clicked();
+    void on_buttonForward_clicked();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -74,6 +86,19 @@ private:
 
     void setUpTrees();
     void connectSignals();
+    void connectLineEditing();
+    static arcanum::DialogueFileNew::LineKind modelKind(LineKind kind);
+    // The line selected in a tree, or else the open line.
+    OpenLine selectedLine() const;
+    // The lines selected in the tree last clicked, or else the open line.
+    QList<OpenLine> selectedLines() const;
+    void addLine(LineKind kind);
+    void deleteSelectedLines();
+    void renumberOpenLine(int number);
+    // Opens the line a response leads to; codes of 0 and below end the conversation and open nothing.
+    void openTarget(int line);
+    void moveInHistory(const std::function<std::optional<LineHistory::Entry>()>& step);
+    void updateHistoryButtons();
     void updateControls();
     void showFileName();
     void closeLine();
@@ -102,5 +127,11 @@ private:
     QWidget* graphWindow = nullptr;
     ConversationView* graph = nullptr;
     OpenLine open;
+    // The line last made current in either tree.
+    OpenLine selected;
+    QTreeWidget* selectedTree = nullptr;
+    // The line last renumbered, as it was and as it became.
+    std::pair<OpenLine, OpenLine> renumbered;
+    LineHistory history;
     FileEncoding* encoding = nullptr;
 };

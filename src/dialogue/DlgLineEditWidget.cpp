@@ -2,6 +2,10 @@
 
 #include "DialogueRowStack.h"
 
+#include <QEvent>
+#include <QLineEdit>
+#include <QSpinBox>
+
 void DlgLineEditWidget::wasModified()
 {
     if (updating)
@@ -10,10 +14,31 @@ void DlgLineEditWidget::wasModified()
     emit wasModifiedSignal();
 }
 
-void DlgLineEditWidget::lineNumberChanged(int number)
+void DlgLineEditWidget::watchLineNumber(QSpinBox* spin, std::function<std::optional<int>()> index)
 {
-    if (!updating)
-        emit newLineNumber(number);
+    connect(spin, &QSpinBox::editingFinished, this, [this, spin, index] {
+        const std::optional<int> shown = index();
+        if (!updating && shown && *shown != spin->value())
+            emit newLineNumber(spin->value());
+    });
+}
+
+// The spin box's own editor gets the mouse.
+void DlgLineEditWidget::watchTarget(QSpinBox* spin)
+{
+    spin->findChild<QLineEdit*>()->installEventFilter(this);
+    spin->findChild<QLineEdit*>()->setProperty("targetOf", QVariant::fromValue<QObject*>(spin));
+}
+
+bool DlgLineEditWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        if (auto* spin = qobject_cast<QSpinBox*>(watched->property("targetOf").value<QObject*>())) {
+            emit targetActivated(spin->value());
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void DlgLineEditWidget::rowsChanged(const char* log)

@@ -2,9 +2,12 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 class DialogueRowStack;
+class QSpinBox;
 
 // What the PC and NPC line forms share: a form shows one line of the model, collects the user's
 // changes and writes them into the line when applied. Filling the form is no change.
@@ -23,13 +26,22 @@ public:
 
 signals:
     void wasModifiedSignal();
+    // The user typed another number for the line and pressed Enter or left the field.
     void newLineNumber(int number);
+    // The user double-clicked the line a response leads to.
+    void targetActivated(int line);
 
 public slots:
     void wasModified();
-    void lineNumberChanged(int number);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    // The line's number field: a finished change to another number than the line's (index gives it,
+    // nothing while no line is shown) is announced with newLineNumber.
+    void watchLineNumber(QSpinBox* spin, std::function<std::optional<int>()> index);
+    // A double click on the field of a response target announces targetActivated.
+    void watchTarget(QSpinBox* spin);
     // A form's generated controls, built before the members that hold on to them.
     template <typename Ui>
     static std::unique_ptr<Ui> setUp(QWidget* form)

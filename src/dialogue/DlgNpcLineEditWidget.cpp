@@ -29,7 +29,6 @@ DlgNpcLineEditWidget::DlgNpcLineEditWidget(QWidget* parent)
 {
     connectChecks();
     connectControls();
-    ui->spinLineNumber->setEnabled(false);
     clear();
 }
 
@@ -71,7 +70,8 @@ void DlgNpcLineEditWidget::connectControls()
     // Of the check boxes only the goto reaches the line: switching it on applies the response line.
     connect(ui->checkHasGoto, &QCheckBox::toggled, this, &DlgNpcLineEditWidget::wasModified);
     connect(ui->spinResponseLine, &QSpinBox::valueChanged, this, &DlgNpcLineEditWidget::wasModified);
-    connect(ui->spinLineNumber, &QSpinBox::valueChanged, this, &DlgNpcLineEditWidget::lineNumberChanged);
+    watchLineNumber(ui->spinLineNumber, [this] { return line ? std::optional<int>(line->index()) : std::nullopt; });
+    watchTarget(ui->spinResponseLine);
 }
 
 void DlgNpcLineEditWidget::fillWithData(NPCLinePointer data)

@@ -46,7 +46,8 @@ void DlgPcLineEditWidget::connectControls()
         connect(combo, &QComboBox::currentIndexChanged, this, &DlgPcLineEditWidget::wasModified);
     for (QSpinBox* spin : {ui->spinIntelligence, ui->spinResponse})
         connect(spin, &QSpinBox::valueChanged, this, &DlgPcLineEditWidget::wasModified);
-    connect(ui->spinLineNumber, &QSpinBox::valueChanged, this, &DlgPcLineEditWidget::lineNumberChanged);
+    watchLineNumber(ui->spinLineNumber, [this] { return line ? std::optional<int>(line->index()) : std::nullopt; });
+    watchTarget(ui->spinResponse);
 }
 
 void DlgPcLineEditWidget::fillWithData(PCLinePointer data)

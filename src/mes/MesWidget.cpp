@@ -73,9 +73,30 @@ std::unique_ptr<Document> MesWidget::fromBytes(const QString& path, const QByteA
     return MesDocument::fromBytes(path, bytes, encoding->codecFor(path), error);
 }
 
+QTextCodec* MesWidget::getCodec() const
+{
+    return encoding->codecFor(QString());
+}
+
 MesDocument* MesWidget::mesDocument() const
 {
     return static_cast<MesDocument*>(document());
+}
+
+bool MesWidget::goToEntry(int number)
+{
+    if (mesDocument() == nullptr)
+        return false;
+    const Mesfile& model = mesDocument()->model();
+    for (int row = 0; row < model.getEntryCount(); ++row) {
+        if (model.getEntryAt(row)->getMesIndex() != number)
+            continue;
+        const QModelIndex text = table->index(row, 1);
+        ui->table->setCurrentIndex(text);
+        ui->table->scrollTo(text, QAbstractItemView::PositionAtCenter);
+        return true;
+    }
+    return false;
 }
 
 void MesWidget::connectSignals()

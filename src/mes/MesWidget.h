@@ -28,6 +28,10 @@ public:
     std::unique_ptr<Document> fromBytes(const QString& path, const QByteArray& bytes, QString& error) const override;
 
     MesDocument* mesDocument() const;
+    // The encoding of message files opened without a remembered one.
+    QTextCodec* getCodec() const;
+    // Selects the text of the entry with that number and scrolls to it; false when the file has none.
+    bool goToEntry(int number);
 
 protected:
     void showDocument() override;

@@ -1,6 +1,7 @@
 #include "FormatChecks.h"
 
 #include <QFile>
+#include <QtEndian>
 
 namespace FormatChecks {
 
@@ -66,6 +67,45 @@ void forEveryPrefix(const QByteArray& bytes, const QString& path, const std::fun
     }
     writeFile(path, bytes);
     load(path);
+}
+
+namespace {
+quint32 crc32(const QByteArray& bytes)
+{
+    quint32 crc = 0xFFFFFFFFu;
+    for (char byte : bytes) {
+        crc ^= quint8(byte);
+        for (int k = 0; k < 8; ++k)
+            crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
+    }
+    return ~crc;
+}
+
+void appendChunk(QByteArray& png, const char* type, const QByteArray& data)
+{
+    char length[4];
+    qToBigEndian(quint32(data.size()), length);
+    png.append(length, 4);
+    const QByteArray body = QByteArray(type) + data;
+    png.append(body);
+    char crc[4];
+    qToBigEndian(crc32(body), crc);
+    png.append(crc, 4);
+}
+
+} // namespace
+
+QByteArray pngHeaderOnly(quint32 width, quint32 height)
+{
+    QByteArray png("\x89PNG\r\n\x1a\n", 8);
+    QByteArray ihdr(13, '\0');
+    qToBigEndian(width, ihdr.data());
+    qToBigEndian(height, ihdr.data() + 4);
+    ihdr[8] = 8; // bit depth; colour type 0: grey
+    appendChunk(png, "IHDR", ihdr);
+    appendChunk(png, "IDAT", QByteArray());
+    appendChunk(png, "IEND", QByteArray());
+    return png;
 }
 
 } // namespace FormatChecks

@@ -21,4 +21,7 @@ QByteArray corrupt(const QByteArray& bytes, unsigned seed, int changes = 8);
 void forEveryPrefix(const QByteArray& bytes, const QString& path, const std::function<void(const QString&)>& load,
                     int step = 1);
 
+// Only the start of a PNG of that size: enough for a reader to learn how large it claims to be.
+QByteArray pngHeaderOnly(quint32 width, quint32 height);
+
 } // namespace FormatChecks

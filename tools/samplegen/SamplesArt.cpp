@@ -257,20 +257,14 @@ bool writePotion(const QDir& game)
     makePalette(FIRE_BEETLE, palette);
     art.setPalette(0, palette);
 
-    QImage icon(ICON, ICON, QImage::Format_Indexed8);
-    QVector<QRgb> table;
-    for (const Artfile::Colour& c : palette)
-        table << c.toRgb();
-    icon.setColorTable(table);
     std::vector<quint8> pixels(ICON * ICON);
     for (int y = 0; y < ICON; ++y) {
         for (int x = 0; x < ICON; ++x)
             pixels[y * ICON + x] = potionPixel(x, y);
     }
     outline(pixels, ICON);
-    for (int y = 0; y < ICON; ++y)
-        std::copy_n(pixels.data() + y * ICON, ICON, icon.scanLine(y));
-    art.convertFrom(icon, 0, 0, false);
+    // Stored raw, so the sample game has a frame of each encoding.
+    art.getImage(0, 0)->setData(ICON, ICON, QByteArray(reinterpret_cast<const char*>(pixels.data()), ICON * ICON));
     Artfile::Image* frame = art.getImage(0, 0);
     frame->left = ICON / 2;
     frame->top = 28;
