@@ -3,7 +3,7 @@
 
 PACKAGES := qt6-base-dev qt6-base-dev-tools qt6-5compat-dev qt6-image-formats-plugins \
             libgl-dev ninja-build cmake g++ fonts-dejavu-core xvfb xauth \
-            pkg-config libdeflate-dev zlib1g-dev libimagequant-dev xdotool \
+            pkg-config libdeflate-dev zlib1g-dev libimagequant-dev libuchardet-dev xdotool \
             qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)

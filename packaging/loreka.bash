@@ -7,7 +7,7 @@ _loreka()
 
     case $prev in
         --encoding)
-            COMPREPLY=($(compgen -W 'UTF-8 windows-1251 windows-1252 windows-1250 KOI8-R' -- "$cur"))
+            COMPREPLY=($(compgen -W 'auto UTF-8 windows-1251 windows-1252 windows-1250 KOI8-R CP949 GBK Shift_JIS' -- "$cur"))
             return ;;
         --format)
             COMPREPLY=($(compgen -W 'png bmp jpg tiff' -- "$cur"))

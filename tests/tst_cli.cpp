@@ -303,11 +303,13 @@ private slots:
     {
         const Run run = loreka({"check", "--encoding", "UTF-8", game});
         QCOMPARE(run.code, 1);
-        const QStringList lines = run.lines();
-        QCOMPARE(lines.size(), 5);
-        for (int line = 1; line <= 4; ++line)
-            QCOMPARE(lines.at(line - 1), QStringLiteral("%1/data/mes/sample_russian.mes:%2: error: bytes that are not "
-                                                        "valid UTF-8").arg(game).arg(line));
+        const QString suggestion = QStringLiteral(
+            "cannot be read in UTF-8 (first: line %1); the file reads cleanly in windows-1251, KOI8-R, windows-1252: "
+            "pick one with --encoding, or --encoding auto");
+        QCOMPARE(run.lines(), (QStringList{
+            game + "/data/dlg/sample_dialogue.dlg:16: error: 50 characters " + suggestion.arg(16),
+            game + "/data/mes/sample_russian.mes:1: error: 61 characters " + suggestion.arg(1),
+            "22 files checked, 2 problems, 1 note"}));
     }
 
     // Bytes that mean nothing never pass, whatever the name says (the same bytes every run).
@@ -627,8 +629,8 @@ private slots:
         QTest::newRow("bytes not in UTF-8")
             << "cp1251.mes" << QByteArray("{1}{\xcf\xf0\xe8}\r\n")
             << QStringList({"  line 1 (content changed)",
-                            "  the file does not read cleanly in UTF-8 (3 invalid characters): its bytes were replaced; "
-                            "pick its encoding with --encoding (windows-1251 for Russian texts)",
+                            "  3 characters cannot be read in UTF-8 (first: line 1); the file reads cleanly in "
+                            "windows-1251, KOI8-R, windows-1252: pick one with --encoding, or --encoding auto",
                             "  read:    {1}{\ufffd\ufffd\ufffd}", "  written: {1}{\ufffd\ufffd\ufffd}"});
     }
 
@@ -642,6 +644,80 @@ private slots:
         const Run run = loreka({"roundtrip", path});
         QCOMPARE(run.code, 1);
         QCOMPARE(run.lines().mid(1), report);
+    }
+
+    // --encoding auto reads each text file in its own encoding and says which; a named one is kept to.
+    void encodingOption_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QStringList>("expected"); // lines of the output, FILE for the file's path
+        const QByteArray russian = QByteArrayLiteral("{1}{\xcf\xf0\xe8\xe2\xe5\xf2, \xef\xf3\xf2\xed\xe8\xea!}\r\n");
+        const QByteArray koi8 = QByteArrayLiteral("{1}{\xf0\xd2\xc9\xd7\xc5\xd4, \xd0\xd5\xd4\xce\xc9\xcb!}\r\n");
+        const QByteArray utf8 = QStringLiteral("{1}{Привет, путник!}\r\n").toUtf8();
+        QTest::newRow("dump auto, Windows-1251")
+            << QStringList{"dump", "--encoding", "auto", "FILE.mes"} << russian << 0
+            << QStringList{"encoding: windows-1251 (guessed)", "file: FILE.mes", "header: ", "entries:", "  - Привет, путник!"};
+        QTest::newRow("dump auto, KOI8-R")
+            << QStringList{"dump", "--encoding", "auto", "FILE.mes"} << koi8 << 0
+            << QStringList{"encoding: KOI8-R (guessed)", "file: FILE.mes", "header: ", "entries:", "  - Привет, путник!"};
+        QTest::newRow("dump auto, UTF-8 dialogue")
+            << QStringList{"dump", "--encoding", "auto", "FILE.dlg"}
+            << QStringLiteral("{1}{Привет!}{}{}{}{}{}\r\n").toUtf8() << 0
+            << QStringList{"encoding: UTF-8 (guessed)", "file: FILE.dlg", "NPC lines:", "  - Привет!"};
+        QTest::newRow("dump of a dialogue in its default")
+            << QStringList{"dump", "FILE.dlg"} << QByteArray("{1}{\xc4\xe0}{}{}{}{}{}\r\n") << 0
+            << QStringList{"encoding: windows-1251", "file: FILE.dlg", "NPC lines:", "  - Да"};
+        QTest::newRow("dump in a named encoding that does not read it")
+            << QStringList{"dump", "--encoding", "UTF-8", "FILE.mes"} << russian << 0
+            << QStringList{"encoding: UTF-8",
+                           "unreadable: 12 characters cannot be read in UTF-8 (first: line 1); the file reads cleanly "
+                           "in windows-1251, windows-949, GBK: pick one with --encoding, or --encoding auto"};
+        QTest::newRow("roundtrip auto")
+            << QStringList{"roundtrip", "--encoding", "auto", "FILE.mes"} << utf8 << 0
+            << QStringList{"FILE.mes: identical, read as UTF-8 (guessed)"};
+        QTest::newRow("roundtrip auto of a dialogue")
+            << QStringList{"roundtrip", "--encoding", "auto", "FILE.dlg"}
+            << QByteArray("{1}{\xc4\xe0}{}{}{}{}{}\r\n\r\n") << 0
+            << QStringList{"FILE.dlg: identical, read as windows-1251 (guessed)"};
+        QTest::newRow("check auto") << QStringList{"check", "--encoding", "auto", "GAME"} << russian << 0
+                                    << QStringList{"1 file checked, 0 problems"};
+        QTest::newRow("check in a named encoding")
+            << QStringList{"check", "--encoding", "UTF-8", "GAME"} << russian << 1
+            << QStringList{"FILE.mes:1: error: 12 characters cannot be read in UTF-8 (first: line 1); "
+                           "the file reads cleanly in windows-1251, windows-949, GBK: pick one with --encoding, "
+                           "or --encoding auto",
+                           "1 file checked, 1 problem"};
+        QTest::newRow("check without an encoding") << QStringList{"check", "GAME"} << russian << 0
+                                                   << QStringList{"1 file checked, 0 problems"};
+        QTest::newRow("find auto") << QStringList{"find", "путник", "GAME", "--encoding", "auto"} << russian << 0
+                                   << QStringList{"data/mes/FILE.mes:1: Привет, путник!"};
+        QTest::newRow("find in UTF-8") << QStringList{"find", "путник", "GAME"} << russian << 1 << QStringList();
+        QTest::newRow("unknown encoding") << QStringList{"dump", "--encoding", "frob", "FILE.mes"} << utf8 << 2
+                                          << QStringList();
+    }
+
+    void encodingOption()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, code);
+        QFETCH(QStringList, expected);
+        // A small game of one text file holding the bytes of the row (a message file for check).
+        const QString base = scratch.filePath(QString::fromLatin1(QTest::currentDataTag()).replace(' ', '_'));
+        const QString file = base + "/data/mes/FILE";
+        QVERIFY(QDir().mkpath(base + "/data/mes"));
+        const bool dialogue = arguments.contains(QStringLiteral("FILE.dlg"));
+        QVERIFY(FormatChecks::writeFile(file + (dialogue ? ".dlg" : ".mes"), bytes));
+        arguments.replaceInStrings(QStringLiteral("GAME"), base);
+        arguments.replaceInStrings(QStringLiteral("FILE"), file);
+        for (QString& line : expected) {
+            line.replace(QRegularExpression(QStringLiteral("^(file: )?FILE")), QStringLiteral("\\1") + file);
+        }
+        const Run run = loreka(arguments, scratch.path());
+        QCOMPARE(run.code, code);
+        QCOMPARE(run.lines().mid(0, expected.size()), expected);
     }
 
     void exportWritesEveryFrame_data()

@@ -3,6 +3,7 @@
 #include "ConversationView.h"
 #include "DialogueEditWidget.h"
 #include "Document.h"
+#include "EncodingChecks.h"
 #include "UndoChecks.h"
 
 #include <QUndoStack>
@@ -446,6 +447,14 @@ private slots:
         QTest::mouseClick(child<QRadioButton>("radioPC"), Qt::LeftButton);
         QVERIFY(!treeNPC()->isVisible());
         QVERIFY(treePC()->isVisible());
+    }
+
+    // UTF-8 read in the game's code page leaves "И" (0xD0 0x98) unreadable: the strip offers UTF-8.
+    void suggestedEncodingReadsTheFile()
+    {
+        const QByteArray utf8 = QStringLiteral("{1}{Иди за мной.}{}{}{}{}{}\r\n\r\n").toUtf8();
+        EncodingChecks::suggestionReadsTheFile([] { return std::make_unique<DialogueEditWidget>(); },
+                                               dir.filePath(QStringLiteral("follow.dlg")), utf8, "UTF-8");
     }
 
     void unreadRestIsReported()

@@ -1,6 +1,8 @@
 // The message editor page, driven offscreen: the table over the document, the text box, the source
 // line, undo of every edit, encodings that would damage a file, and the file on disk after each save.
 #include "Document.h"
+#include "EncodingBox.h"
+#include "EncodingChecks.h"
 #include "FormatChecks.h"
 #include "MesDocument.h"
 #include "MesWidget.h"
@@ -103,7 +105,7 @@ private slots:
     // The game's code pages first, then each codec once under one name, sorted.
     void encodingListPutsTheGamesCodePagesFirst()
     {
-        const QStringList names = MesWidget::encodingList();
+        const QStringList names = EncodingBox::encodingList();
         QCOMPARE(names.mid(0, 4), QStringList({"windows-1251", "windows-1252", "windows-1250", "UTF-8"}));
         QSet<QByteArray> codecs;
         for (const QString& name : names) {
@@ -254,7 +256,8 @@ private slots:
         const QByteArray russian = QByteArrayLiteral("{1}{") + cp1251(QStringLiteral("Меч")) + "}\r\n{2}{"
                                    + cp1251(QStringLiteral("Щит")) + "}\r\n{3}{Shield}\r\n";
         const QString file = open(QStringLiteral("ru.mes"), russian);
-        QVERIFY(page->document()->damage().contains(QStringLiteral("Line 1 and 1 more lines cannot be read in UTF-8")));
+        // The strip over the page says so (EncodingChecks); the damage banner is for the entries.
+        QVERIFY(page->document()->damage().isEmpty());
         model()->setData(model()->index(2, 1), QStringLiteral("Buckler"));
         ScriptedAnswerer answers;
         answers.buttons << QMessageBox::Yes << QMessageBox::Cancel;
@@ -263,14 +266,36 @@ private slots:
             QStringLiteral("Saving in UTF-8 would change 2 lines that were not edited")), qPrintable(answers.last(QStringLiteral("question"))->text));
         QCOMPARE(FormatChecks::readFile(file), russian);
 
+        // Another encoding for a modified file asks first; Cancel keeps the file and its edit as they are.
+        answers.buttons << QMessageBox::Cancel;
+        child<QComboBox>("encodingSelect")->setCurrentText(QStringLiteral("windows-1251"));
+        QCOMPARE(answers.last(QStringLiteral("question"))->text, QStringLiteral("Save changes to ru.mes?"));
+        QCOMPARE(child<QComboBox>("encodingSelect")->currentText(), QStringLiteral("UTF-8"));
+        QVERIFY(page->document()->isModified());
         // In the file's own encoding the same edit saves and every Cyrillic byte stays.
         answers.buttons << QMessageBox::Discard;
         child<QComboBox>("encodingSelect")->setCurrentText(QStringLiteral("windows-1251"));
-        QVERIFY(page->document()->damage().isEmpty());
+        QCOMPARE(page->mesDocument()->codec()->name(), QByteArray("windows-1251"));
+        QCOMPARE(model()->data(model()->index(0, 1)).toString(), QStringLiteral("Меч"));
         model()->setData(model()->index(2, 1), QStringLiteral("Buckler"));
         answers.buttons << QMessageBox::Yes;
         QVERIFY(page->save());
         QCOMPARE(FormatChecks::readFile(file), QByteArray(russian).replace("Shield", "Buckler"));
+
+        // A copy saved under another name opens in the same encoding.
+        answers.fileNames << path(QStringLiteral("ru-copy.mes"));
+        QVERIFY(page->saveAs());
+        page = std::make_unique<MesWidget>();
+        QVERIFY(page->openFile(path(QStringLiteral("ru-copy.mes"))));
+        QCOMPARE(page->mesDocument()->codec()->name(), QByteArray("windows-1251"));
+    }
+
+    void suggestedEncodingReadsTheFile()
+    {
+        const QByteArray russian = QByteArrayLiteral("// ") + cp1251(QStringLiteral("Оружие")) + "\r\n{1}{"
+                                   + cp1251(QStringLiteral("Ржавый кинжал")) + "}\r\n{2}{Shield}\r\n";
+        EncodingChecks::suggestionReadsTheFile([] { return std::make_unique<MesWidget>(); },
+                                               path(QStringLiteral("weapons.mes")), russian, "windows-1251");
     }
 
     // Find in game files opens a file at an entry through this.

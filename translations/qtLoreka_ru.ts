@@ -1200,6 +1200,10 @@
         <source>Lines %1 lead to lines %2. Delete them anyway?</source>
         <translation>Строки %1 ведут на строки %2. Всё равно удалить их?</translation>
     </message>
+    <message>
+        <source>File encoding:</source>
+        <translation>Кодировка файла:</translation>
+    </message>
 </context>
 <context>
     <name>DialogueFile</name>
@@ -1513,6 +1517,32 @@
     <message>
         <source>the file could not be written</source>
         <translation>файл не удалось записать</translation>
+    </message>
+</context>
+<context>
+    <name>EncodingBox</name>
+    <message>
+        <source>&lt;b&gt;File encoding&lt;/b&gt;&lt;br/&gt;The file is read and saved in this encoding, remembered for each file. Choosing another one reads the file again from disk, after asking about unsaved changes.</source>
+        <translation>&lt;b&gt;Кодировка файла&lt;/b&gt;&lt;br/&gt;Файл читается и сохраняется в этой кодировке; выбор запоминается для каждого файла. Выбор другой кодировки перечитывает файл с диска, предварительно спросив о несохранённых изменениях.</translation>
+    </message>
+</context>
+<context>
+    <name>EncodingStrip</name>
+    <message>
+        <source>The file does not read cleanly in %1: %2 character(s) stand for bytes it cannot read (shown as %3 or as blanks), the first on line %4; saving would write them back changed.</source>
+        <translation>Файл не читается без ошибок в кодировке %1: нечитаемых байтов заменено символами — %2 (они показаны как %3 или пробелы), первый в строке %4; при сохранении они будут записаны изменёнными.</translation>
+    </message>
+    <message>
+        <source>No encoding of the game&apos;s languages reads it cleanly; pick one in the list.</source>
+        <translation>Ни одна кодировка языков игры не читает его без ошибок; выберите кодировку в списке.</translation>
+    </message>
+    <message>
+        <source>It reads cleanly in (the most likely first):</source>
+        <translation>Без ошибок читается в (самая вероятная первой):</translation>
+    </message>
+    <message>
+        <source>Reads the file again in %1 and remembers that for this file.</source>
+        <translation>Перечитывает файл в кодировке %1 и запоминает её для этого файла.</translation>
     </message>
 </context>
 <context>
@@ -2188,10 +2218,6 @@ Restore them (they open modified, not saved) or discard them?</source>
         <translation>Записей, которые не читаются и сохраняются как есть: %1: </translation>
     </message>
     <message>
-        <source>Pick the file&apos;s encoding below before editing.</source>
-        <translation>Перед правкой выберите ниже кодировку файла.</translation>
-    </message>
-    <message>
         <source>“%1” is not a number.</source>
         <translation>«%1» — не число.</translation>
     </message>
@@ -2292,10 +2318,6 @@ Restore them (they open modified, not saved) or discard them?</source>
     <message>
         <source>File encoding:</source>
         <translation>Кодировка файла:</translation>
-    </message>
-    <message>
-        <source>&lt;b&gt;File encoding&lt;/b&gt;&lt;br/&gt;The file is read and saved in this encoding. Choosing another one reads the file again from disk: unsaved changes are dropped.</source>
-        <translation>&lt;b&gt;Кодировка файла&lt;/b&gt;&lt;br/&gt;Файл читается и сохраняется в этой кодировке. Выбор другой перечитывает файл с диска: несохранённые изменения теряются.</translation>
     </message>
     <message>
         <source>Reload file</source>

@@ -15,12 +15,6 @@ namespace {
 
 constexpr int ENTRY_ITEM_COUNT = 7; // the index and six items
 
-// The code page of the game's texts; it maps every byte to a character and back, so nothing is lost.
-QTextCodec* codec()
-{
-    return QTextCodec::codecForName("Windows-1251");
-}
-
 template <typename T>
 QExplicitlySharedDataPointer<T> findLine(const QList<QExplicitlySharedDataPointer<T>>& lines, int index)
 {
@@ -59,14 +53,20 @@ void DialogueFileNew::readBytes(const QByteArray& bytes)
 {
     // Decoded here because Qt 6 streams know no Windows code pages; reading without text mode also
     // keeps a lone "\r" inside a text, while the stream still ends lines at "\n" and "\r\n".
-    const QString text = TextCodec::decode(codec(), bytes);
+    const QString text = TextCodec::decode(mCodec, bytes);
     TextLines lines(text);
     readLines(lines);
 }
 
-QTextCodec* DialogueFileNew::textCodec()
+// The code page of the game's texts; it maps every byte to a character and back, so nothing is lost.
+QTextCodec* DialogueFileNew::defaultCodec()
 {
-    return codec();
+    return QTextCodec::codecForName("Windows-1251");
+}
+
+void DialogueFileNew::setCodec(QTextCodec* codec)
+{
+    mCodec = codec != nullptr ? codec : defaultCodec();
 }
 
 void DialogueFileNew::read(QTextStream& stream)
@@ -227,7 +227,7 @@ bool DialogueFileNew::save(QFile* file) const
 
 QByteArray DialogueFileNew::toBytes() const
 {
-    return TextCodec::encode(codec(), toText());
+    return TextCodec::encode(mCodec, toText());
 }
 
 // NPC lines start a line of the file, the PC answers that follow them in index order are indented

@@ -266,8 +266,11 @@ public:
     void read(QTextStream& stream);
     // As load, from the bytes of a file.
     void readBytes(const QByteArray& bytes);
-    // The encoding dialogue files are read and written in.
-    static QTextCodec* textCodec();
+    // The encoding dialogue files are read and written in unless told otherwise: the game's code page.
+    static QTextCodec* defaultCodec();
+    // The encoding this file is read and written in; null sets the default.
+    QTextCodec* codec() const { return mCodec; }
+    void setCodec(QTextCodec* codec);
     // Writes every line, in index order, through a temporary file that replaces the file only when
     // complete; false (and the file untouched) when it cannot be written.
     bool save(QFile* file) const;
@@ -359,6 +362,7 @@ private:
     static QString withWindowsLineEnds(QString text);
 
     QString mFileName;
+    QTextCodec* mCodec = defaultCodec();
     QList<NPCLinePointer> mNpcLines;
     QList<PCLinePointer> mPcLines;
     QString mUnreadText;

@@ -16,7 +16,8 @@ struct FileFormat
 
     // Reads the bytes as the editor reads them and gives back what a save would write; false with
     // the reason when the file is refused. path only names the file (a script takes its number
-    // from it); nothing is read from disk. codec is for the text formats and may be null there.
+    // from it); nothing is read from disk. codec is for the text formats; null means the kind's default
+    // (UTF-8 for message files, Windows-1251 for dialogue files).
     using Rewrite = bool (*)(const QString& path, const QByteArray& bytes, QTextCodec* codec, QByteArray& out,
                              QString& error);
 

@@ -55,9 +55,10 @@ bool rewriteMessages(const QString&, const QByteArray& bytes, QTextCodec* codec,
     return true;
 }
 
-bool rewriteDialogue(const QString&, const QByteArray& bytes, QTextCodec*, QByteArray& out, QString&)
+bool rewriteDialogue(const QString&, const QByteArray& bytes, QTextCodec* codec, QByteArray& out, QString&)
 {
     DialogueFileNew model;
+    model.setCodec(codec);
     model.readBytes(bytes);
     out = model.toBytes();
     return true;

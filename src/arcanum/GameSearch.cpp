@@ -189,10 +189,11 @@ void GameSearch::addTextHit(QVector<Hit>& hits, const QString& text, int firstLi
 // does not show, so it is always looked for text by text.
 QVector<GameSearch::Hit> GameSearch::searchMessages(const QByteArray& bytes) const
 {
-    if (!wanted.regex && find(TextCodec::decode(codec, bytes)) < 0)
+    QTextCodec* encoding = chooseEncoding ? chooseEncoding(FileFormat::Kind::Message, bytes) : codec;
+    if (!wanted.regex && find(TextCodec::decode(encoding, bytes)) < 0)
         return {};
     Mesfile file;
-    if (!file.loadBytes(bytes, codec))
+    if (!file.loadBytes(bytes, encoding))
         return {};
     QVector<Hit> hits;
     for (int i = 0; i < file.getEntryCount(); ++i) {
@@ -206,9 +207,12 @@ QVector<GameSearch::Hit> GameSearch::searchMessages(const QByteArray& bytes) con
 
 QVector<GameSearch::Hit> GameSearch::searchDialogueTexts(const QByteArray& bytes) const
 {
-    if (!wanted.regex && find(TextCodec::decode(DialogueFileNew::textCodec(), bytes)) < 0)
+    QTextCodec* encoding = chooseEncoding ? chooseEncoding(FileFormat::Kind::Dialogue, bytes)
+                                          : DialogueFileNew::defaultCodec();
+    if (!wanted.regex && find(TextCodec::decode(encoding, bytes)) < 0)
         return {};
     DialogueFileNew file;
+    file.setCodec(encoding);
     file.readBytes(bytes);
     QVector<Hit> hits;
     for (const DialogueFileNew::NPCLinePointer& line : file.npcLines()) {

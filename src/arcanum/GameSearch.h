@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileFormat.h"
 #include "GameView.h"
 
 #include <QRegularExpression>
@@ -67,8 +68,11 @@ public:
     // Called after each file; total counts the files the query reads.
     using Progress = std::function<void(int done, int total)>;
 
-    // mesCodec decodes message files (dialogue files are always Windows-1251); null means UTF-8.
+    // mesCodec decodes message files (dialogue files are Windows-1251); null means UTF-8.
     GameSearch(const Query& query, QTextCodec* mesCodec);
+    // Picks each text file's encoding from its kind and bytes instead (`loreka find --encoding auto`).
+    using EncodingChooser = std::function<QTextCodec*(FileFormat::Kind kind, const QByteArray& bytes)>;
+    void setEncodingChooser(const EncodingChooser& chooser) { chooseEncoding = chooser; }
 
     // False for a regular expression that does not compile; error() then says why.
     bool isValid() const { return invalid.isEmpty(); }
@@ -104,6 +108,7 @@ private:
 
     Query wanted;
     QTextCodec* codec;
+    EncodingChooser chooseEncoding;
     QRegularExpression expression;
     QString invalid;
 };

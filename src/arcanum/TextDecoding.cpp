@@ -1,5 +1,7 @@
 #include "TextDecoding.h"
 
+#include "TextCodec.h"
+
 #include <QCoreApplication>
 #include <QTextCodec>
 
@@ -14,7 +16,39 @@ bool survives(QTextCodec* codec, const QByteArray& line)
     return state.invalidChars == 0 && codec->fromUnicode(text) == line;
 }
 
+constexpr char16_t REPLACEMENT = 0xFFFD;
+constexpr char16_t FIRST_C1 = 0x80;
+constexpr char16_t LAST_C1 = 0x9F;
+constexpr char16_t FIRST_PRIVATE_USE = 0xE000;
+constexpr char16_t LAST_PRIVATE_USE = 0xF8FF;
+
 } // namespace
+
+bool TextDecoding::isUnreadable(char16_t character)
+{
+    return character == REPLACEMENT || (character >= FIRST_C1 && character <= LAST_C1)
+        || (character >= FIRST_PRIVATE_USE && character <= LAST_PRIVATE_USE);
+}
+
+TextDecoding::Unreadable TextDecoding::unreadable(QTextCodec* codec, const QByteArray& bytes)
+{
+    if (codec == nullptr)
+        return {};
+    return unreadable(TextCodec::decode(codec, bytes));
+}
+
+TextDecoding::Unreadable TextDecoding::unreadable(const QString& decoded)
+{
+    Unreadable found;
+    int line = 1;
+    for (const QChar character : decoded) {
+        if (character == QLatin1Char('\n'))
+            ++line;
+        else if (isUnreadable(character.unicode()) && found.characters++ == 0)
+            found.firstLine = line;
+    }
+    return found;
+}
 
 QList<int> TextDecoding::lossyLines(QTextCodec* codec, const QByteArray& bytes)
 {

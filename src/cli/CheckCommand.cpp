@@ -41,8 +41,8 @@ QString savedBaseDir()
 
 } // namespace
 
-CheckCommand::CheckCommand(QTextCodec* mesCodec, bool listNotes)
-    : codec(mesCodec)
+CheckCommand::CheckCommand(const EncodingChoice& encoding, bool listNotes)
+    : encoding(encoding)
 {
     report.showNotes(listNotes);
 }
@@ -131,12 +131,10 @@ void CheckCommand::checkFile(const QString& path)
         return;
     switch (kind) {
     case FileFormat::Kind::Message:
-        checkText(path, bytes, codecFor(bytes));
-        checkMes(path);
+        checkMes(path, checkText(path, bytes, kind));
         break;
     case FileFormat::Kind::Dialogue:
-        checkText(path, bytes, DialogueFileNew::textCodec());
-        checkDialogue(path);
+        checkDialogue(path, checkText(path, bytes, kind));
         break;
     case FileFormat::Kind::Script:
         checkScript(path);
@@ -170,19 +168,19 @@ bool CheckCommand::isOtherKind(const QString& path, const QByteArray& bytes, Fil
     return true;
 }
 
-// Message files are read in the encoding asked for; without one, in UTF-8 when they are valid
-// UTF-8 and otherwise in the game's code page.
-QTextCodec* CheckCommand::codecFor(const QByteArray& bytes) const
+// Text files are read in the encoding asked for; without one, a message file that is no valid UTF-8
+// is taken for the game's own code page, as its texts mostly are.
+QTextCodec* CheckCommand::codecFor(FileFormat::Kind kind, const QByteArray& bytes) const
 {
-    if (encodingChosen || codec->mibEnum() != 106 /* UTF-8 */)
+    QTextCodec* codec = encoding.codecFor(kind, bytes);
+    if (encoding.isChosen() || kind != FileFormat::Kind::Message || TextDecoding::unreadable(codec, bytes).isClean())
         return codec;
-    QTextCodec::ConverterState state;
-    codec->toUnicode(bytes.constData(), int(bytes.size()), &state);
-    return state.invalidChars == 0 ? codec : DialogueFileNew::textCodec();
+    return DialogueFileNew::defaultCodec();
 }
 
 // The game's texts end at a NUL byte; bytes the encoding cannot read change when the file is saved.
-void CheckCommand::checkText(const QString& path, const QByteArray& bytes, QTextCodec* textCodec)
+// Returns the encoding the file is read in.
+QTextCodec* CheckCommand::checkText(const QString& path, const QByteArray& bytes, FileFormat::Kind kind)
 {
     int line = 1;
     qsizetype lineStart = 0;
@@ -197,12 +195,14 @@ void CheckCommand::checkText(const QString& path, const QByteArray& bytes, QText
             break;
         at = next; // one report a line
     }
-    for (int lossy : TextDecoding::lossyLines(textCodec, bytes))
-        report.error(path, lossy,
-                     QStringLiteral("bytes that are not valid %1").arg(QString::fromLatin1(textCodec->name())));
+    QTextCodec* codec = codecFor(kind, bytes);
+    const QString unreadable = encoding.unreadable(codec, bytes);
+    if (!unreadable.isEmpty())
+        report.error(path, TextDecoding::unreadable(codec, bytes).firstLine, unreadable);
+    return codec;
 }
 
-void CheckCommand::checkMes(const QString& path)
+void CheckCommand::checkMes(const QString& path, QTextCodec* codec)
 {
     Mesfile mes(path);
     if (QFileInfo(path).size() == 0 || !mes.load(codec))
@@ -214,10 +214,11 @@ void CheckCommand::checkMes(const QString& path)
     }
 }
 
-void CheckCommand::checkDialogue(const QString& path)
+void CheckCommand::checkDialogue(const QString& path, QTextCodec* codec)
 {
     QFile file(path);
     DialogueFileNew dialogue(&file);
+    dialogue.setCodec(codec);
     dialogue.load();
     const DialogueCheck check(dialogue);
     for (const DialogueCheck::Finding& finding : check.findings()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Diagnostics.h"
+#include "EncodingChoice.h"
 #include "FileFormat.h"
 
 #include <QString>
@@ -19,10 +20,8 @@ class CheckCommand
 {
 public:
     // listNotes: print the notes too (what the game reads although our stricter reading objects).
-    CheckCommand(QTextCodec* mesCodec, bool listNotes);
+    CheckCommand(const EncodingChoice& encoding, bool listNotes);
 
-    // Message files are checked in mesCodec even when they are not valid in it.
-    void chooseEncoding() { encodingChosen = true; }
     // An empty dir means the base directory of "qtLoreka.ini", or the working directory.
     int run(const QString& dir);
 
@@ -30,11 +29,11 @@ private:
     static QStringList ignoreList(const QString& base);
     void checkFile(const QString& path);
     bool isOtherKind(const QString& path, const QByteArray& bytes, arcanum::FileFormat::Kind kind);
-    QTextCodec* codecFor(const QByteArray& bytes) const;
-    void checkText(const QString& path, const QByteArray& bytes, QTextCodec* textCodec);
+    QTextCodec* codecFor(arcanum::FileFormat::Kind kind, const QByteArray& bytes) const;
+    QTextCodec* checkText(const QString& path, const QByteArray& bytes, arcanum::FileFormat::Kind kind);
     void checkArchives(const QString& base);
-    void checkMes(const QString& path);
-    void checkDialogue(const QString& path);
+    void checkMes(const QString& path, QTextCodec* codec);
+    void checkDialogue(const QString& path, QTextCodec* codec);
     void checkScript(const QString& path);
     void checkScriptLength(const QString& path);
     void checkScriptLine(const QString& path, const arcanum::Script& script, int index);
@@ -42,7 +41,6 @@ private:
     void checkProto(const QString& path);
     void checkPalette(const QString& path);
 
-    QTextCodec* codec;
-    bool encodingChosen = false;
+    EncodingChoice encoding;
     Diagnostics report;
 };

@@ -4,6 +4,7 @@
 #include "CheckCommand.h"
 #include "DatCommand.h"
 #include "DumpCommand.h"
+#include "EncodingChoice.h"
 #include "ExportCommand.h"
 #include "FindCommand.h"
 #include "ModelChatter.h"
@@ -12,7 +13,6 @@
 
 #include <QDir>
 #include <QSettings>
-#include <QTextCodec>
 
 #include <cstdio>
 
@@ -31,8 +31,10 @@ CommandLine::CommandLine()
     , notesOption(QStringLiteral("notes"),
                   QStringLiteral("check: also list notes, what the game reads although a stricter reading objects."))
     , encodingOption(QStringLiteral("encoding"),
-                     QStringLiteral("check, dump, roundtrip: the code page of .mes files (default UTF-8)."),
-                     QStringLiteral("CODEC"), QStringLiteral("UTF-8"))
+                     QStringLiteral("check, dump, roundtrip: the encoding of .mes and .dlg files, a codec name or "
+                                    "auto (UTF-8 when the file is valid UTF-8, else the best guess, file by file); "
+                                    "default UTF-8 for .mes, windows-1251 for .dlg."),
+                     QStringLiteral("CODEC"))
     , fromOption(QStringLiteral("from"), QStringLiteral("art from-images: use the first palette of this art file."),
                  QStringLiteral("ART"))
     , ditherOption(QStringLiteral("dither"), QStringLiteral("art from-images: Floyd-Steinberg dithering."))
@@ -98,19 +100,15 @@ int CommandLine::run(const QStringList& arguments)
 
 int CommandLine::dispatch(const QString& command, const QStringList& operands)
 {
-    QTextCodec* codec = mesCodec();
-    if (!codec)
+    const EncodingChoice encoding(parser.value(encodingOption));
+    if (!encoding.isValid())
         return usageError(QStringLiteral("unknown encoding \"%1\"").arg(parser.value(encodingOption)));
-    if (command == QLatin1String("check") && operands.size() <= 1) {
-        CheckCommand check(codec, parser.isSet(notesOption));
-        if (parser.isSet(encodingOption))
-            check.chooseEncoding();
-        return check.run(operands.value(0));
-    }
+    if (command == QLatin1String("check") && operands.size() <= 1)
+        return CheckCommand(encoding, parser.isSet(notesOption)).run(operands.value(0));
     if (command == QLatin1String("dump") && operands.size() == 1)
-        return DumpCommand(codec, parser.isSet(jsonOption)).run(operands.first());
+        return DumpCommand(encoding, parser.isSet(jsonOption)).run(operands.first());
     if (command == QLatin1String("roundtrip") && !operands.isEmpty())
-        return RoundtripCommand(codec).run(operands);
+        return RoundtripCommand(encoding).run(operands);
     if (command == QLatin1String("export") && operands.size() == 2) {
         bool ok = false;
         const int palette = parser.value(paletteOption).toInt(&ok);
@@ -133,7 +131,7 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
         return ArtCommand(options).run(operands);
     }
     if (command == QLatin1String("find"))
-        return FindCommand(codec).run(parser, operands);
+        return FindCommand(encoding).run(parser, operands);
     if (command == QLatin1String("dat"))
         return DatCommand(parser.isSet(jsonOption)).run(operands);
     if (command == QLatin1String("script"))
@@ -149,11 +147,6 @@ QString CommandLine::baseDir(const QString& dir)
         return dir;
     const QSettings settings(QStringLiteral("qtLoreka.ini"), QSettings::IniFormat);
     return QDir::cleanPath(settings.value(QStringLiteral("Directories/BaseDir"), QStringLiteral(".")).toString());
-}
-
-QTextCodec* CommandLine::mesCodec()
-{
-    return QTextCodec::codecForName(parser.value(encodingOption).toLatin1());
 }
 
 int CommandLine::usageError(const QString& message)

@@ -4,8 +4,6 @@
 #include <QCommandLineParser>
 #include <QStringList>
 
-class QTextCodec;
-
 // Reads the command and its options and hands over to the command's class.
 // Exit status: 0 success, 1 problems found or files that differ, 2 wrong usage or unreadable input.
 class CommandLine
@@ -25,7 +23,6 @@ public:
 
 private:
     int dispatch(const QString& command, const QStringList& operands);
-    QTextCodec* mesCodec();
 
     QCommandLineParser parser;
     QCommandLineOption jsonOption;

@@ -5,13 +5,14 @@
 #include "JsonOrder.h"
 #include "JsonText.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
 #include <cstdio>
 
-DumpCommand::DumpCommand(QTextCodec* mesCodec, bool json)
-    : codec(mesCodec)
+DumpCommand::DumpCommand(const EncodingChoice& encoding, bool json)
+    : encoding(encoding)
     , asJson(json)
 {
 }
@@ -26,10 +27,12 @@ int DumpCommand::run(const QString& path)
     }
     const QString suffix = info.suffix().toLower();
     QJsonObject dump;
+    const bool text = suffix == QLatin1String("mes") || suffix == QLatin1String("dlg");
+    QTextCodec* codec = text ? encoding.codecFor(path) : nullptr;
     if (suffix == QLatin1String("mes"))
         dump = FileDump::mes(path, codec);
     else if (suffix == QLatin1String("dlg"))
-        dump = FileDump::dialogue(path);
+        dump = FileDump::dialogue(path, codec);
     else if (suffix == QLatin1String("scr"))
         dump = FileDump::script(path);
     else if (suffix == QLatin1String("art"))
@@ -47,10 +50,23 @@ int DumpCommand::run(const QString& path)
         return CommandLine::Problems;
     }
     dump.insert(QStringLiteral("file"), path);
+    // A text file's encoding heads the text dump: what follows reads as it says.
+    QJsonObject header;
+    if (text) {
+        header.insert(QStringLiteral("encoding"), encoding.describe(codec));
+        QFile file(path);
+        const QString unreadable = file.open(QIODevice::ReadOnly) ? encoding.unreadable(codec, file.readAll()) : QString();
+        if (!unreadable.isEmpty())
+            header.insert(QStringLiteral("unreadable"), unreadable);
+    }
     QTextStream out(stdout);
-    if (asJson)
+    if (asJson) {
+        for (auto it = header.constBegin(); it != header.constEnd(); ++it)
+            dump.insert(it.key(), it.value());
         out << QString::fromUtf8(JsonOrder::toJson(dump)) << '\n';
-    else
+    } else {
+        JsonText(out).print(header);
         JsonText(out).print(dump);
+    }
     return CommandLine::Clean;
 }

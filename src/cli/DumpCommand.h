@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QString>
+#include "EncodingChoice.h"
 
-class QTextCodec;
+#include <QString>
 
 // `loreka dump FILE [--json]`: the file as readable text, or the same as JSON.
 class DumpCommand
 {
 public:
-    DumpCommand(QTextCodec* mesCodec, bool json);
+    DumpCommand(const EncodingChoice& encoding, bool json);
     int run(const QString& path);
 
 private:
-    QTextCodec* codec;
+    EncodingChoice encoding;
     bool asJson;
 };

@@ -105,10 +105,11 @@ QJsonObject FileDump::mes(const QString& path, QTextCodec* codec)
     return QJsonObject{{"header", file.getHeader()}, {"entries", entries}};
 }
 
-QJsonObject FileDump::dialogue(const QString& path)
+QJsonObject FileDump::dialogue(const QString& path, QTextCodec* codec)
 {
     QFile file(path);
     DialogueFileNew dialogue(&file);
+    dialogue.setCodec(codec);
     if (!dialogue.load())
         return failed(QStringLiteral("cannot be read"));
     QJsonArray npc;

@@ -16,7 +16,7 @@ class FileDump
 {
 public:
     static QJsonObject mes(const QString& path, QTextCodec* codec);
-    static QJsonObject dialogue(const QString& path);
+    static QJsonObject dialogue(const QString& path, QTextCodec* codec);
     static QJsonObject script(const QString& path);
     static QJsonObject art(const QString& path);
     static QJsonObject proto(const QString& path);

@@ -27,8 +27,8 @@ int usage(const QString& message)
 
 } // namespace
 
-FindCommand::FindCommand(QTextCodec* mesCodec)
-    : codec(mesCodec)
+FindCommand::FindCommand(const EncodingChoice& encoding)
+    : encoding(encoding)
 {
 }
 
@@ -73,7 +73,10 @@ int FindCommand::search(const QString& dir, const QString& pattern)
     query.number = number;
     if (byNumber && !GameSearch::numberMode(kind, query.mode))
         return usage(QStringLiteral("--as takes flag, var, script or message, not \"%1\"").arg(kind));
-    const GameSearch search(query, codec);
+    GameSearch search(query, nullptr);
+    search.setEncodingChooser([this](arcanum::FileFormat::Kind kind, const QByteArray& bytes) {
+        return encoding.codecFor(kind, bytes);
+    });
     if (!search.isValid())
         return usage(search.error());
     const QString base = CommandLine::baseDir(dir);

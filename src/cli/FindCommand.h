@@ -1,12 +1,13 @@
 #pragma once
 
+#include "EncodingChoice.h"
+
 #include <QCommandLineOption>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 class QCommandLineParser;
-class QTextCodec;
 
 // `loreka find PATTERN [DIR]` and `loreka find --number N --as flag|var|script|message [DIR]`: one
 // "FILE:LINE: text" row per hit, loose files and archived ones (ARCHIVE/PATH) alike. Exit status 0
@@ -14,7 +15,7 @@ class QTextCodec;
 class FindCommand
 {
 public:
-    explicit FindCommand(QTextCodec* mesCodec);
+    explicit FindCommand(const EncodingChoice& encoding);
 
     static QList<QCommandLineOption> options();
     // operands: what follows "find"; the options come from parser.
@@ -23,7 +24,7 @@ public:
 private:
     int search(const QString& dir, const QString& pattern);
 
-    QTextCodec* codec;
+    EncodingChoice encoding;
     bool regex = false;
     bool caseSensitive = false;
     bool byNumber = false;

@@ -33,8 +33,8 @@ QByteArray lineAt(const QByteArray& bytes, qint64 at, int& number)
 
 } // namespace
 
-RoundtripCommand::RoundtripCommand(QTextCodec* mesCodec)
-    : codec(mesCodec)
+RoundtripCommand::RoundtripCommand(const EncodingChoice& encoding)
+    : encoding(encoding)
 {
 }
 
@@ -60,6 +60,10 @@ int RoundtripCommand::roundTrip(const QString& path, QTextStream& out) const
         return CommandLine::Failure;
     }
     const QByteArray before = original.readAll();
+    QTextCodec* codec = format->text ? encoding.codecFor(format->kind, before) : nullptr;
+    // Under "auto" the encoding is the program's choice, so it is shown with each text file.
+    const QString readAs = codec != nullptr && encoding.isAuto()
+        ? QStringLiteral(", read as %1").arg(encoding.describe(codec)) : QString();
     QByteArray after;
     QString error;
     if (!format->rewrite(path, before, codec, after, error)) {
@@ -68,38 +72,30 @@ int RoundtripCommand::roundTrip(const QString& path, QTextStream& out) const
     }
     const qint64 at = firstDifference(before, after);
     if (at < 0) {
-        out << path << ": identical" << Qt::endl;
+        out << path << ": identical" << readAs << Qt::endl;
         return CommandLine::Clean;
     }
     out << path << QStringLiteral(": differs at offset 0x%1 (%2 bytes read, %3 written)")
                        .arg(at, 0, 16).arg(before.size()).arg(after.size())
-        << Qt::endl;
-    if (format->text)
-        showLine(*format, before, after, at, out);
+        << readAs << Qt::endl;
+    if (codec != nullptr)
+        showLine(codec, before, after, at, out);
     return CommandLine::Problems;
 }
 
-void RoundtripCommand::showLine(const FileFormat& format, const QByteArray& before, const QByteArray& after,
+void RoundtripCommand::showLine(QTextCodec* codec, const QByteArray& before, const QByteArray& after,
                                 qint64 at, QTextStream& out) const
 {
-    // Dialogue files are read in the game's code page whatever --encoding says for message files.
-    QTextCodec* shown = format.kind == FileFormat::Kind::Dialogue ? QTextCodec::codecForName("windows-1251")
-                                                                  : codec ? codec : QTextCodec::codecForName("UTF-8");
     int number = 0;
     int ignored = 0;
     const QByteArray read = lineAt(before, at, number);
     const QByteArray written = lineAt(after, at, ignored);
     out << QStringLiteral("  line %1 (%2)").arg(number).arg(rewriteKind(before.mid(at), after.mid(at))) << Qt::endl;
-    QTextCodec::ConverterState check;
-    shown->toUnicode(before.constData(), int(before.size()), &check);
-    if (check.invalidChars > 0)
-        out << QStringLiteral("  the file does not read cleanly in %1 (%2 invalid characters): its bytes were "
-                              "replaced; pick its encoding with --encoding (windows-1251 for Russian texts)")
-                   .arg(QString::fromLatin1(shown->name()))
-                   .arg(check.invalidChars)
-            << Qt::endl;
-    out << "  read:    " << shown->toUnicode(read) << Qt::endl;
-    out << "  written: " << shown->toUnicode(written) << Qt::endl;
+    const QString unreadable = encoding.unreadable(codec, before);
+    if (!unreadable.isEmpty())
+        out << "  " << unreadable << Qt::endl;
+    out << "  read:    " << codec->toUnicode(read) << Qt::endl;
+    out << "  written: " << codec->toUnicode(written) << Qt::endl;
 }
 
 // What the format always does to a file, told apart from a change of content: the rest of the file

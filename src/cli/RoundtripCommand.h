@@ -1,5 +1,7 @@
 #pragma once
 
+#include "EncodingChoice.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -17,15 +19,15 @@ struct FileFormat;
 class RoundtripCommand
 {
 public:
-    explicit RoundtripCommand(QTextCodec* mesCodec);
+    explicit RoundtripCommand(const EncodingChoice& encoding);
     int run(const QStringList& paths);
 
 private:
     int roundTrip(const QString& path, QTextStream& out) const;
-    void showLine(const arcanum::FileFormat& format, const QByteArray& before, const QByteArray& after, qint64 at,
+    void showLine(QTextCodec* codec, const QByteArray& before, const QByteArray& after, qint64 at,
                   QTextStream& out) const;
     static qint64 firstDifference(const QByteArray& a, const QByteArray& b);
     static QString rewriteKind(const QByteArray& before, const QByteArray& after);
 
-    QTextCodec* codec;
+    EncodingChoice encoding;
 };

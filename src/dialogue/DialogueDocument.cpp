@@ -13,17 +13,20 @@ namespace {
 const int LISTED_PROBLEMS = 3;
 }
 
-std::unique_ptr<DialogueDocument> DialogueDocument::fromBytes(const QString& path, const QByteArray& bytes)
+std::unique_ptr<DialogueDocument> DialogueDocument::fromBytes(const QString& path, const QByteArray& bytes,
+                                                             QTextCodec* codec)
 {
-    return std::unique_ptr<DialogueDocument>(new DialogueDocument(path, bytes));
+    return std::unique_ptr<DialogueDocument>(new DialogueDocument(path, bytes, codec));
 }
 
-DialogueDocument::DialogueDocument(const QString& path, const QByteArray& bytes)
+DialogueDocument::DialogueDocument(const QString& path, const QByteArray& bytes, QTextCodec* codec)
     : Document(path)
-    , lossyLines(arcanum::TextDecoding::lossyLines(DialogueFileNew::textCodec(), bytes))
 {
     const QFile file(path);
     model = std::make_unique<DialogueFileNew>(&file);
+    model->setCodec(codec);
+    lossyLines = arcanum::TextDecoding::lossyLines(model->codec(), bytes);
+    findings = arcanum::EncodingGuess::examine(model->codec(), bytes);
     model->readBytes(bytes);
     model->sortLines();
 }
@@ -45,7 +48,7 @@ QString DialogueDocument::saveLoss() const
     if (lossyLines.isEmpty())
         return QString();
     return tr("Saving in %1 would change %2 line(s) of the file that do not read cleanly in it (first: line %3).")
-        .arg(QString::fromLatin1(DialogueFileNew::textCodec()->name()))
+        .arg(QString::fromLatin1(model->codec()->name()))
         .arg(lossyLines.size())
         .arg(lossyLines.first());
 }
@@ -165,9 +168,6 @@ QString DialogueDocument::damage() const
     const QString lines = lineProblems();
     if (!lines.isEmpty())
         problems.append(lines);
-    const QString decoding = arcanum::TextDecoding::describe(
-        lossyLines, QString::fromLatin1(DialogueFileNew::textCodec()->name()));
-    if (!decoding.isEmpty())
-        problems.append(decoding);
+    // What does not read in the chosen encoding the page's own strip shows, with the encodings that do.
     return problems.join(QStringLiteral("; "));
 }

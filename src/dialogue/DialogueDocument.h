@@ -2,6 +2,7 @@
 
 #include "DialogueFileNew.h"
 #include "Document.h"
+#include "EncodingGuess.h"
 
 #include <QList>
 
@@ -16,10 +17,15 @@ class DialogueDocument : public Document
 public:
     using LineKind = arcanum::DialogueFileNew::LineKind;
 
-    static std::unique_ptr<DialogueDocument> fromBytes(const QString& path, const QByteArray& bytes);
+    // codec: the encoding to read and write the file in; null for the game's code page.
+    static std::unique_ptr<DialogueDocument> fromBytes(const QString& path, const QByteArray& bytes,
+                                                       QTextCodec* codec = nullptr);
 
     arcanum::DialogueFileNew& dialogue() { return *model; }
     const arcanum::DialogueFileNew& dialogue() const { return *model; }
+    QTextCodec* codec() const { return model->codec(); }
+    // What did not read in that encoding, and the encodings that would read the file.
+    const arcanum::EncodingGuess::Findings& encodingFindings() const { return findings; }
 
     bool serialize(QByteArray& bytes, QString& error) const override;
     QString saveLoss() const override;
@@ -47,9 +53,10 @@ protected:
     void restoreModel(const QByteArray& bytes) override;
 
 private:
-    DialogueDocument(const QString& path, const QByteArray& bytes);
+    DialogueDocument(const QString& path, const QByteArray& bytes, QTextCodec* codec);
     QString lineProblems() const;
 
     std::unique_ptr<arcanum::DialogueFileNew> model;
     QList<int> lossyLines;
+    arcanum::EncodingGuess::Findings findings;
 };

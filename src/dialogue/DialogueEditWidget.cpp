@@ -8,6 +8,9 @@
 #include "DialogueProblemsPanel.h"
 #include "DlgNpcLineEditWidget.h"
 #include "DlgPcLineEditWidget.h"
+#include "EncodingBox.h"
+#include "EncodingStrip.h"
+#include "FileEncoding.h"
 #include "LineNumberDialog.h"
 #include "Prompt.h"
 #include "WheelGuard.h"
@@ -19,6 +22,7 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <QUndoStack>
@@ -66,6 +70,13 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     , ui(std::make_unique<Ui_DialogueEditWidget>())
 {
     ui->setupUi(this);
+    encoding = new FileEncoding(this, DialogueFileNew::defaultCodec());
+    auto* encodingLabel = new QLabel(tr("File encoding:"), this);
+    encodingLabel->setBuddy(encoding->box());
+    const int graphAt = ui->fileLayout->indexOf(ui->buttonGraph);
+    ui->fileLayout->insertWidget(graphAt, encodingLabel);
+    ui->fileLayout->insertWidget(graphAt + 1, encoding->box());
+    ui->mainLayout->insertWidget(ui->mainLayout->indexOf(ui->labelUnread), encoding->strip());
     setUpTrees();
     connectSignals();
     connectLineEditing();
@@ -101,7 +112,7 @@ QString DialogueEditWidget::fileFilter() const
 std::unique_ptr<Document> DialogueEditWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
     Q_UNUSED(error);
-    return DialogueDocument::fromBytes(path, bytes);
+    return DialogueDocument::fromBytes(path, bytes, encoding->codecFor(path));
 }
 
 DialogueDocument* DialogueEditWidget::dialogueDocument() const
@@ -148,6 +159,9 @@ void DialogueEditWidget::showDocument()
         });
         connect(shown, &Document::modifiedChanged, this, &DialogueEditWidget::updateControls);
     }
+    const DialogueDocument* shown = dialogueDocument();
+    encoding->show(shown ? shown->codec() : nullptr,
+                   shown ? shown->encodingFindings() : arcanum::EncodingGuess::Findings());
     showFileName();
     refreshProblems();
     fillTrees();

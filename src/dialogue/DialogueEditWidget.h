@@ -14,6 +14,7 @@
 
 class ConversationView;
 class DialogueProblemsPanel;
+class FileEncoding;
 class DialogueDocument;
 class DlgLineEditWidget;
 class QTreeWidget;
@@ -139,4 +140,5 @@ private:
     LineHistory history;
     DialogueProblemsPanel* problems = nullptr;
     std::unique_ptr<arcanum::DialogueCheck> lineCheck;
+    FileEncoding* encoding = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "gui.h"
 
+#include <QFileInfo>
 #include <QTextCodec>
 
 namespace gui {
@@ -27,6 +28,28 @@ std::string toCp1251(const QString& s)
 {
     const QByteArray bytes = QTextCodec::codecForName(CODEPAGE)->fromUnicode(s);
     return std::string(bytes.constData());
+}
+
+namespace {
+// Under "Encodings/", one key per file: its absolute path, percent-encoded so slashes make no groups.
+QString encodingKey(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return QStringLiteral("Encodings/") + QString::fromLatin1(absolute.toUtf8().toPercentEncoding());
+}
+} // namespace
+
+QByteArray encodingOf(const QString& path)
+{
+    return settings.value(encodingKey(path)).toByteArray();
+}
+
+void rememberEncoding(const QString& path, const QByteArray& encoding)
+{
+    if (encoding.isEmpty())
+        settings.remove(encodingKey(path));
+    else
+        settings.setValue(encodingKey(path), encoding);
 }
 
 void setBaseDir(const QDir& dir)

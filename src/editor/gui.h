@@ -19,6 +19,11 @@ QSettings* getSettings();
 QString fromCp1251(std::string s);
 std::string toCp1251(const QString& s);
 
+// The encoding a text file was last chosen to be read in ("windows-1251"); empty when none was.
+QByteArray encodingOf(const QString& path);
+// Remembers it for the next opening; an empty name forgets it.
+void rememberEncoding(const QString& path, const QByteArray& encoding);
+
 void setBaseDir(const QDir& dir);
 QDir getBaseDir();
 

@@ -39,6 +39,7 @@ MesDocument::MesDocument(const QString& path, std::unique_ptr<Mesfile> model, QT
     , mesfile(std::move(model))
     , textCodec(codec)
     , lossyLines(arcanum::TextDecoding::lossyLines(codec, bytes))
+    , findings(arcanum::EncodingGuess::examine(codec, bytes))
 {
     // Entries move and go away later: each damaged line is tied to its entry while the order is the file's.
     for (int line : lossyLines)
@@ -446,8 +447,6 @@ QString MesDocument::damage() const
     if (!problems.isEmpty())
         problems.first().prepend(invalid == 1 ? tr("1 entry cannot be read and is kept as it is: ")
                                               : tr("%1 entries cannot be read and are kept as they are: ").arg(invalid));
-    const QString decoding = arcanum::TextDecoding::describe(lossyLines, QString::fromLatin1(textCodec->name()));
-    if (!decoding.isEmpty())
-        problems.append(decoding + QLatin1Char(' ') + tr("Pick the file's encoding below before editing."));
+    // What does not read in the chosen encoding the page's own strip shows, with the encodings that do.
     return problems.join(QStringLiteral("; "));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Document.h"
+#include "EncodingGuess.h"
 #include "Mesfile.h"
 
 #include <QList>
@@ -39,6 +40,8 @@ public:
 
     const arcanum::Mesfile& model() const { return *mesfile; }
     QTextCodec* codec() const { return textCodec; }
+    // What did not read in that encoding, and the encodings that would read the file.
+    const arcanum::EncodingGuess::Findings& encodingFindings() const { return findings; }
     int columnCount() const;
     QString cell(int entry, int column) const;
     bool isEditable(int entry, int column) const;
@@ -115,5 +118,6 @@ private:
     QList<int> lossyLines;
     std::vector<const arcanum::Mesfile::Entry*> lossyOwners;
     QSet<const arcanum::Mesfile::Entry*> editedEntries;
+    arcanum::EncodingGuess::Findings findings;
     bool headerEdited = false;
 };

@@ -3,6 +3,9 @@
 #include "FormatRegistry.h"
 
 #include "FindBar.h"
+#include "EncodingBox.h"
+#include "EncodingStrip.h"
+#include "FileEncoding.h"
 #include "MesDocument.h"
 #include "MesTableModel.h"
 #include "Prompt.h"
@@ -35,7 +38,7 @@ const int HEADER_MERGE_ID = 1002;
 
 } // namespace
 
-MesWidget::MesWidget(QWidget* parent, const QString& encoding)
+MesWidget::MesWidget(QWidget* parent, const QString& defaultEncoding)
     : Page(parent)
     , ui(std::make_unique<Ui_MesWidget>())
     , table(new MesTableModel(this))
@@ -44,7 +47,11 @@ MesWidget::MesWidget(QWidget* parent, const QString& encoding)
     createEntryTools();
     ui->table->setModel(table);
     lineToolTip = ui->completeLine->toolTip();
-    fillEncodings(encoding);
+    QTextCodec* byDefault = QTextCodec::codecForName(defaultEncoding.toLatin1());
+    encoding = new FileEncoding(this, byDefault ? byDefault : QTextCodec::codecForName("UTF-8"));
+    ui->bottomLayout->insertWidget(1, encoding->box());
+    ui->encodingLabel->setBuddy(encoding->box());
+    ui->mainLayout->insertWidget(0, encoding->strip());
     ui->itemView->setReadOnly(true);
     ui->table->verticalHeader()->setVisible(false);
     ui->table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
@@ -72,7 +79,12 @@ QString MesWidget::fileFilter() const
 
 std::unique_ptr<Document> MesWidget::fromBytes(const QString& path, const QByteArray& bytes, QString& error) const
 {
-    return MesDocument::fromBytes(path, bytes, codec, error);
+    return MesDocument::fromBytes(path, bytes, encoding->codecFor(path), error);
+}
+
+QTextCodec* MesWidget::getCodec() const
+{
+    return encoding->codecFor(QString());
 }
 
 MesDocument* MesWidget::mesDocument() const
@@ -94,41 +106,6 @@ bool MesWidget::goToEntry(int number)
         return true;
     }
     return false;
-}
-
-const QStringList& MesWidget::encodingList()
-{
-    // The game's own code pages first, then every other codec once, by its canonical name (Qt lists
-    // each codec under all of its aliases).
-    static const QStringList names = [] {
-        QStringList first;
-        for (const char* common : {"windows-1251", "windows-1252", "windows-1250", "UTF-8", "EUC-KR", "GBK", "Shift_JIS"})
-            if (const QTextCodec* codec = QTextCodec::codecForName(common))
-                first << QString::fromLatin1(codec->name());
-        QStringList rest;
-        for (int mib : QTextCodec::availableMibs()) {
-            const QString name = QString::fromLatin1(QTextCodec::codecForMib(mib)->name());
-            if (!first.contains(name, Qt::CaseInsensitive) && !rest.contains(name, Qt::CaseInsensitive))
-                rest << name;
-        }
-        std::sort(rest.begin(), rest.end(), [](const QString& a, const QString& b) {
-            return QString::compare(a, b, Qt::CaseInsensitive) < 0;
-        });
-        first.removeDuplicates();
-        return first + rest;
-    }();
-    return names;
-}
-
-void MesWidget::fillEncodings(const QString& encoding)
-{
-    const QSignalBlocker blocker(ui->encodingSelect);
-    ui->encodingSelect->addItems(encodingList());
-    codec = QTextCodec::codecForName(encoding.toLatin1());
-    if (!codec)
-        codec = QTextCodec::codecForName("UTF-8");
-    ui->encodingSelect->setCurrentIndex(
-        ui->encodingSelect->findText(QString::fromLatin1(codec->name()), Qt::MatchFixedString));
 }
 
 // The tools over the table, the find bar under them: built here rather than in the form, as one block
@@ -236,7 +213,6 @@ void MesWidget::connectSignals()
     });
     connect(ui->itemView, &QPlainTextEdit::textChanged, this, &MesWidget::itemViewEdited);
     connect(ui->editCommentary, &QPlainTextEdit::textChanged, this, &MesWidget::headerEdited);
-    connect(ui->encodingSelect, &QComboBox::currentTextChanged, this, &MesWidget::encodingChosen);
 }
 
 void MesWidget::showDocument()
@@ -255,10 +231,8 @@ void MesWidget::showDocument()
     findBar->setStatus(QString());
     if (shown != nullptr) {
         connectDocument(shown);
-        const QSignalBlocker blocker(ui->encodingSelect);
-        ui->encodingSelect->setCurrentIndex(
-            ui->encodingSelect->findText(QString::fromLatin1(shown->codec()->name()), Qt::MatchFixedString));
     }
+    encoding->show(shown ? shown->codec() : nullptr, shown ? shown->encodingFindings() : arcanum::EncodingGuess::Findings());
     fitColumns();
     updateControls();
 }
@@ -371,22 +345,6 @@ void MesWidget::headerEdited()
         return;
     pushValue<QString>(shown->undoStack(), tr("Edit header"), HEADER_MERGE_ID, 0, shown->model().getHeader(),
                        ui->editCommentary->toPlainText(), [shown](const QString& text) { shown->applyHeader(text); });
-}
-
-void MesWidget::encodingChosen(const QString& name)
-{
-    QTextCodec* chosen = QTextCodec::codecForName(name.toLatin1());
-    if (chosen == nullptr || chosen == codec)
-        return;
-    QTextCodec* previous = codec;
-    codec = chosen;
-    // The text means something else in the new encoding: the file is read again, after the usual question.
-    if (document() != nullptr && !openFile(document()->path())) {
-        codec = previous;
-        const QSignalBlocker blocker(ui->encodingSelect);
-        ui->encodingSelect->setCurrentIndex(
-            ui->encodingSelect->findText(QString::fromLatin1(codec->name()), Qt::MatchFixedString));
-    }
 }
 
 void MesWidget::showFind(bool replace)

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class FileEncoding;
 class FindBar;
 class MesTableModel;
 class QAction;
@@ -22,11 +23,8 @@ class MesWidget : public Page
     Q_OBJECT
 
 public:
-    explicit MesWidget(QWidget* parent = nullptr, const QString& encoding = QStringLiteral("UTF-8"));
+    explicit MesWidget(QWidget* parent = nullptr, const QString& defaultEncoding = QStringLiteral("UTF-8"));
     ~MesWidget() override;
-
-    // Every codec name the platform offers, in its own order.
-    static const QStringList& encodingList();
 
     // Opens the find bar (with its replace row for replace) over the table.
     void showFind(bool replace);
@@ -45,7 +43,8 @@ public:
     std::unique_ptr<Document> fromBytes(const QString& path, const QByteArray& bytes, QString& error) const override;
 
     MesDocument* mesDocument() const;
-    QTextCodec* getCodec() const { return codec; }
+    // The encoding of message files opened without a remembered one.
+    QTextCodec* getCodec() const;
     // Selects the text of the entry with that number and scrolls to it; false when the file has none.
     bool goToEntry(int number);
 
@@ -72,14 +71,12 @@ private:
     void replaceOne();
     void replaceAll();
     void showMatch(const MesDocument::Match& match);
-    void fillEncodings(const QString& encoding);
     void fitColumns();
     void updateControls();
     void showCurrentCell();
     void showSourceLine();
     void itemViewEdited();
     void headerEdited();
-    void encodingChosen(const QString& name);
     void setItemViewText(const QString& text);
 
     std::unique_ptr<Ui_MesWidget> ui;
@@ -92,7 +89,7 @@ private:
     QAction* renumberAction = nullptr;
     // The match the find bar showed last; Replace replaces it when its cell still holds it.
     MesDocument::Match lastMatch;
-    QTextCodec* codec = nullptr;
+    FileEncoding* encoding = nullptr;
     QString lineToolTip;
     // Set while the page fills its text boxes from the document, so that is not an edit.
     bool updating = false;
