@@ -287,6 +287,31 @@ private slots:
         QCOMPARE(saved(path), fileOf(CONVERSATION));
     }
 
+    // Return finishes the field's editing, and so does the message taking the focus from it: the refusal
+    // is said once, and the field shows the line's number again.
+    void pageRefusesARenumberingOnce()
+    {
+        openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(30));
+        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+        struct LeavingTheField : ScriptedAnswerer
+        {
+            QSpinBox* field = nullptr;
+            void message(QMessageBox::Icon icon, const QString& title, const QString& text) override
+            {
+                ScriptedAnswerer::message(icon, title, text);
+                if (count(QStringLiteral("message")) == 1)
+                    emit field->editingFinished();
+            }
+        } answers;
+        answers.field = spin;
+        spin->setValue(40);
+        emit spin->editingFinished();
+        QCOMPARE(answers.count(QStringLiteral("message")), 1);
+        QCOMPARE(spin->value(), 30);
+        QCOMPARE(page->document()->undoStack()->count(), 0);
+    }
+
     void pageAddsAfterTheSelectedLine()
     {
         const QString path = openPage(fileOf(CONVERSATION));

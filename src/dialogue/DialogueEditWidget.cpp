@@ -718,8 +718,10 @@ void DialogueEditWidget::renumberOpenLine(int number)
     applyPendingForm();
     QString error;
     if (!shown->renumberLine(modelKind(was.kind), was.index, number, error)) {
-        Prompt::message(this, QMessageBox::Warning, tr("Change line number"), error);
+        // The field shows the line's number again before the message takes the focus from it: leaving
+        // the field finishes its editing once more, and must not find the refused number there.
         reopen(was);
+        Prompt::message(this, QMessageBox::Warning, tr("Change line number"), error);
         return;
     }
     history.renumber(static_cast<int>(was.kind), was.index, number);
