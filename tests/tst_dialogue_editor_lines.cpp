@@ -312,6 +312,24 @@ private slots:
         QCOMPARE(page->document()->undoStack()->count(), 0);
     }
 
+    // A new line takes the keyboard: what is typed next is its text.
+    void pageAddedLineTakesTheKeyboard()
+    {
+        const QString path = openPage(fileOf(CONVERSATION));
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        QVERIFY(page->openLine(20));
+        ScriptedAnswerer answers;
+        answers.dialogs << typing(QStringLiteral("21"));
+        auto* add = child<QPushButton>("buttonAddNpc");
+        add->setFocus();
+        QTest::mouseClick(add, Qt::LeftButton);
+        QVERIFY(QApplication::focusWidget() != nullptr);
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Who goes there"));
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
+        QVERIFY(saved(path).contains("{21}{Who goes there}"));
+    }
+
     void pageAddsAfterTheSelectedLine()
     {
         const QString path = openPage(fileOf(CONVERSATION));

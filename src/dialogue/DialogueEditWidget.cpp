@@ -655,6 +655,9 @@ void DialogueEditWidget::addLine(LineKind kind)
         QString refused = shown->refusedNumber(dialog.text(), number);
         if (refused.isEmpty() && shown->addLine(modelKind(kind), number, refused)) {
             reopen({kind, number});
+            // Typing goes into the new line, not into the button that made it (a space would press it again).
+            if (DlgLineEditWidget* form = openForm())
+                form->focusText();
             return;
         }
         Prompt::message(this, QMessageBox::Warning, title, refused);
