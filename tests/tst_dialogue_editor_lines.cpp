@@ -330,6 +330,25 @@ private slots:
         QVERIFY(saved(path).contains("{21}{Who goes there}"));
     }
 
+    // The heading says where a response goes: a line, the end, or a game code.
+    void pageHeadingNamesEnds_data()
+    {
+        QTest::addColumn<int>("line");
+        QTest::addColumn<QString>("heading");
+        QTest::newRow("line") << 11 << QStringLiteral("answered by NPC line");
+        QTest::newRow("end") << 3 << QStringLiteral("ends the conversation");
+        QTest::newRow("game code") << 5 << QStringLiteral("ends the conversation with game code -1");
+    }
+
+    void pageHeadingNamesEnds()
+    {
+        QFETCH(int, line);
+        QFETCH(QString, heading);
+        openPage(fileOf(inserted(CONVERSATION, 3, QStringLiteral("\t{5}{Trade.}{}{1}{}{-1}{}"))));
+        QVERIFY(page->openPcLine(line));
+        QVERIFY2(child<QLabel>("labelOpenLine")->text().contains(heading), qPrintable(child<QLabel>("labelOpenLine")->text()));
+    }
+
     void pageAddsAfterTheSelectedLine()
     {
         const QString path = openPage(fileOf(CONVERSATION));

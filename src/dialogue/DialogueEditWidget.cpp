@@ -524,7 +524,11 @@ QString DialogueEditWidget::describeOpenLine() const
     if (open.kind != LineKind::Pc || !line || !dlgfile)
         return QString();
     QString text = tr("<b>PC line %1</b>").arg(open.index);
-    if (const DialogueFileNew::NPCLinePointer answer = dlgfile->getNPCLine(line->responseLine()))
+    if (line->responseLine() == 0)
+        text += tr(" — ends the conversation");
+    else if (line->responseLine() < 0)
+        text += tr(" — ends the conversation with game code %1").arg(line->responseLine());
+    else if (const DialogueFileNew::NPCLinePointer answer = dlgfile->getNPCLine(line->responseLine()))
         text += tr(" — answered by NPC line %1: %2").arg(lineLink(answer->index())).arg(firstLine(answer->text()).toHtmlEscaped());
     else
         text += tr(" — response line %1 is no NPC line of this file").arg(line->responseLine());
