@@ -276,6 +276,28 @@ private slots:
         QVERIFY(window.findChild<QAction*>(QStringLiteral("actionRedo"))->isEnabled());
     }
 
+    // Undo while a dialogue line's form holds typed text takes that text back as a step of its own (and
+    // Redo brings it back) instead of undoing the step before and dropping the text.
+    void undoKeepsWhatAFormHolds()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.openFiles({game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg"))});
+        auto* dialogue = window.findChild<DialogueEditWidget*>();
+        QVERIFY(dialogue->document());
+        auto* text = dialogue->findChild<QPlainTextEdit*>(QStringLiteral("maleText"));
+        QVERIFY(dialogue->openNpcLine(1));
+        text->setPlainText(QStringLiteral("First edit."));
+        QVERIFY(dialogue->openNpcLine(10)); // applies line 1's form: one step
+        text->setPlainText(QStringLiteral("Second edit."));
+        window.findChild<QAction*>(QStringLiteral("actionUndo"))->trigger();
+        const auto textOf = [dialogue](int line) { return dialogue->getModel()->getNPCLine(line)->text(); };
+        QCOMPARE(textOf(1), QStringLiteral("First edit."));
+        QVERIFY(textOf(10) != QStringLiteral("Second edit."));
+        window.findChild<QAction*>(QStringLiteral("actionRedo"))->trigger();
+        QCOMPARE(textOf(10), QStringLiteral("Second edit."));
+    }
+
     void standardKeys()
     {
         MainWindow window;
