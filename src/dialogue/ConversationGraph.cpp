@@ -86,17 +86,17 @@ void ConversationGraph::markDuplicates()
     }
 }
 
+// Each ending response gets a marker of its own right below it: one marker shared by a whole conversation
+// would draw arrows from every layer back up to wherever it first sat.
 int ConversationGraph::endNode(int code)
 {
-    const int existing = find(Kind::End, code);
-    if (existing >= 0)
-        return existing;
     Node node;
     node.kind = Kind::End;
     node.line = code;
     node.label = code == 0 ? QCoreApplication::translate("ConversationGraph", "end")
                            : QCoreApplication::translate("ConversationGraph", "game code %1").arg(code);
-    byLine.insert(key(Kind::End, code), int(nodeList.size()));
+    if (!byLine.contains(key(Kind::End, code)))
+        byLine.insert(key(Kind::End, code), int(nodeList.size()));
     nodeList.append(node);
     return int(nodeList.size()) - 1;
 }

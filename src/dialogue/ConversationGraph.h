@@ -39,7 +39,7 @@ public:
 
     const QVector<Node>& nodes() const { return nodeList; }
     const QVector<Edge>& edges() const { return edgeList; }
-    // The node of an NPC or PC line, or of the end marker of a code; -1 when there is none.
+    // The node of an NPC or PC line, or the first end marker of a code; -1 when there is none.
     int find(Kind kind, int line) const;
 
 private:
