@@ -345,7 +345,8 @@ QTreeWidgetItem* DialogueEditWidget::npcItem(const DialogueFileNew::NPCLine& lin
 
 QTreeWidgetItem* DialogueEditWidget::pcChildItem(const DialogueFileNew::PCLine& line) const
 {
-    auto* item = new QTreeWidgetItem({tr("PC response line:") + QStringLiteral(" %1: %2").arg(line.index()).arg(firstLine(line.text())),
+    // Short, so that the number and the first words still show in a narrow tree.
+    auto* item = new QTreeWidgetItem({tr("PC %1: %2").arg(line.index()).arg(firstLine(line.text())),
                                       QStringLiteral("→ %1").arg(line.responseLine())});
     describe(item, line, static_cast<int>(LineKind::Pc));
     item->setData(0, TARGET_ROLE, line.responseLine());
