@@ -51,10 +51,10 @@ ConversationView::ConversationView(QWidget* parent)
     legend->setTextFormat(Qt::RichText);
     legend->setStyleSheet(QStringLiteral("QLabel { background: rgba(255,255,255,220); border: 1px solid #999; padding: 4px; }"));
     const auto swatch = [](const QColor& colour, const QString& text) {
-        return QStringLiteral("<span style='background:%1'>&nbsp;&nbsp;&nbsp;&nbsp;</span> %2<br>").arg(colour.name(), text);
+        return QStringLiteral("<span style='background:%1'>&nbsp;&nbsp;&nbsp;&nbsp;</span> %2").arg(colour.name(), text);
     };
     ConversationGraph::Node sample;
-    QString text;
+    QStringList rows;
     for (const auto& [kind, marks, words] :
          std::vector<std::tuple<ConversationGraph::Kind, int, QString>>{
              {ConversationGraph::Kind::Npc, 0, tr("NPC line")},
@@ -66,9 +66,10 @@ ConversationView::ConversationView(QWidget* parent)
              {ConversationGraph::Kind::Npc, ConversationGraph::Problem, tr("line has problems")}}) {
         sample.kind = kind;
         sample.marks = marks;
-        text += swatch(colourOf(sample), words);
+        rows.append(swatch(colourOf(sample), words));
     }
-    legend->setText(text);
+    // Rows joined, not ended, by breaks: a break after the last would leave an empty row in the box.
+    legend->setText(rows.join(QStringLiteral("<br>")));
     legend->adjustSize();
 }
 
