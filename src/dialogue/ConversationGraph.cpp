@@ -115,12 +115,7 @@ void ConversationGraph::addEdges(const arcanum::DialogueFileNew& dialogue)
     for (const auto& npc : dialogue.npcLines()) {
         if (npc->responseLine() <= 0)
             continue;
-        const int from = find(Kind::Npc, npc->index());
-        const int to = lineNode(npc->responseLine());
-        if (to < 0)
-            nodeList[from].marks |= Dangling;
-        else
-            edgeList.append(Edge{from, to});
+        leadTo(find(Kind::Npc, npc->index()), lineNode(npc->responseLine()));
     }
     for (const auto& pc : dialogue.pcLines()) {
         const int from = find(Kind::Pc, pc->index());
@@ -132,12 +127,25 @@ void ConversationGraph::addEdges(const arcanum::DialogueFileNew& dialogue)
             edgeList.append(Edge{from, endNode(target)});
             continue;
         }
-        const int to = find(Kind::Npc, target);
-        if (to < 0)
-            nodeList[from].marks |= Dangling;
-        else
-            edgeList.append(Edge{from, to});
+        leadTo(from, find(Kind::Npc, target));
     }
+}
+
+// A line whose target is not in the file leads nowhere, which is marked on the line instead of drawn.
+void ConversationGraph::leadTo(int from, int to)
+{
+    if (to < 0)
+        nodeList[from].marks |= Dangling;
+    else
+        edgeList.append(Edge{from, to});
+}
+
+QVector<QVector<int>> ConversationGraph::successors() const
+{
+    QVector<QVector<int>> next(nodeList.size());
+    for (const Edge& edge : edgeList)
+        next[edge.from].append(edge.to);
+    return next;
 }
 
 // NPC lines but the first that no arrow reaches and no test or result names (a join or an unwait goes
@@ -166,9 +174,7 @@ void ConversationGraph::markUnnamed(const arcanum::DialogueFileNew& dialogue)
 
 void ConversationGraph::assignLayers()
 {
-    QVector<QVector<int>> next(nodeList.size());
-    for (const Edge& edge : std::as_const(edgeList))
-        next[edge.from].append(edge.to);
+    const QVector<QVector<int>> next = successors();
     // Breadth first from the first NPC line, then from every line nothing reached, each below the rest.
     QVector<int> layer(nodeList.size(), -1);
     int deepest = -1;
@@ -196,11 +202,9 @@ void ConversationGraph::assignLayers()
 void ConversationGraph::placeLayers()
 {
     std::map<int, QVector<int>> layers;
-    QVector<QVector<int>> next(nodeList.size());
+    const QVector<QVector<int>> next = successors();
     for (int i = 0; i < nodeList.size(); ++i)
         layers[nodeList[i].layer].append(i);
-    for (const Edge& edge : std::as_const(edgeList))
-        next[edge.from].append(edge.to);
     QVector<double> parentX(nodeList.size(), 0);
     QVector<int> parents(nodeList.size(), 0);
     for (auto& [number, members] : layers) {

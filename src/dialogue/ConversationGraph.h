@@ -47,6 +47,9 @@ private:
     void addEdges(const arcanum::DialogueFileNew& dialogue);
     void markUnnamed(const arcanum::DialogueFileNew& dialogue);
     int endNode(int code);
+    void leadTo(int from, int to);
+    // The nodes each node's arrows lead to.
+    QVector<QVector<int>> successors() const;
     void markDuplicates();
     void assignLayers();
     void placeLayers();

@@ -333,6 +333,14 @@ void describe(QTreeWidgetItem* item, const DialogueFileNew::Line& line, int kind
 
 } // namespace
 
+// A response's item also knows the line it leads to, which a double click on its target column opens.
+void DialogueEditWidget::describeResponse(QTreeWidgetItem* item, const DialogueFileNew::PCLine& line, int targetColumn) const
+{
+    describe(item, line, static_cast<int>(LineKind::Pc));
+    item->setData(0, TARGET_ROLE, line.responseLine());
+    item->setToolTip(targetColumn, tr("Double-click to open line %1").arg(line.responseLine()));
+}
+
 QTreeWidgetItem* DialogueEditWidget::npcItem(const DialogueFileNew::NPCLine& line) const
 {
     auto* item = new QTreeWidgetItem({QStringLiteral("%1: %2").arg(line.index()).arg(firstLine(line.text())), QString()});
@@ -348,9 +356,7 @@ QTreeWidgetItem* DialogueEditWidget::pcChildItem(const DialogueFileNew::PCLine& 
     // Short, so that the number and the first words still show in a narrow tree.
     auto* item = new QTreeWidgetItem({tr("PC %1: %2").arg(line.index()).arg(firstLine(line.text())),
                                       QStringLiteral("→ %1").arg(line.responseLine())});
-    describe(item, line, static_cast<int>(LineKind::Pc));
-    item->setData(0, TARGET_ROLE, line.responseLine());
-    item->setToolTip(NPC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
+    describeResponse(item, line, NPC_TARGET_COLUMN);
     return item;
 }
 
@@ -358,9 +364,7 @@ QTreeWidgetItem* DialogueEditWidget::pcItem(const DialogueFileNew::PCLine& line)
 {
     auto* item = new QTreeWidgetItem(
         {QString::number(line.responseLine()), QString::number(line.index()), firstLine(line.text())});
-    describe(item, line, static_cast<int>(LineKind::Pc));
-    item->setData(0, TARGET_ROLE, line.responseLine());
-    item->setToolTip(PC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
+    describeResponse(item, line, PC_TARGET_COLUMN);
     return item;
 }
 
@@ -434,12 +438,9 @@ void DialogueEditWidget::showForm(QWidget* form)
     ui->stackForms->setCurrentWidget(form);
 }
 
-void DialogueEditWidget::reopen(const OpenLine& line)
+bool DialogueEditWidget::reopen(const OpenLine& line)
 {
-    if (line.kind == LineKind::Pc)
-        openPcLine(line.index);
-    else if (line.kind == LineKind::Npc)
-        openNpcLine(line.index);
+    return (line.kind == LineKind::Pc && openPcLine(line.index)) || (line.kind == LineKind::Npc && openNpcLine(line.index));
 }
 
 void DialogueEditWidget::closeLine()
@@ -759,11 +760,9 @@ void DialogueEditWidget::on_buttonForward_clicked()
 // Lines deleted since they were opened are passed over.
 void DialogueEditWidget::moveInHistory(const std::function<std::optional<LineHistory::Entry>()>& step)
 {
-    while (const std::optional<LineHistory::Entry> entry = step()) {
-        const OpenLine line{static_cast<LineKind>(entry->kind), entry->number};
-        if ((line.kind == LineKind::Pc && openPcLine(line.index)) || (line.kind == LineKind::Npc && openNpcLine(line.index)))
+    while (const std::optional<LineHistory::Entry> entry = step())
+        if (reopen({static_cast<LineKind>(entry->kind), entry->number}))
             break;
-    }
     updateHistoryButtons();
 }
 

@@ -104,7 +104,8 @@ private:
     QList<QWidget*> fileControls() const override;
     void showForm(QWidget* form);
     bool openLine(const OpenLine& line, QWidget* form, const std::function<void()>& fill);
-    void reopen(const OpenLine& line);
+    // Opens the line again (after a rebuild, or from the history); false when it is gone.
+    bool reopen(const OpenLine& line);
     void applyPendingForm();
     DlgLineEditWidget* openForm() const;
     const arcanum::DialogueFileNew::Line* openLineData() const;
@@ -116,6 +117,7 @@ private:
     QTreeWidgetItem* npcItem(const arcanum::DialogueFileNew::NPCLine& line) const;
     QTreeWidgetItem* pcChildItem(const arcanum::DialogueFileNew::PCLine& line) const;
     QTreeWidgetItem* pcItem(const arcanum::DialogueFileNew::PCLine& line) const;
+    void describeResponse(QTreeWidgetItem* item, const arcanum::DialogueFileNew::PCLine& line, int targetColumn) const;
 
     std::unique_ptr<Ui_DialogueEditWidget> ui;
     void refreshGraph();
