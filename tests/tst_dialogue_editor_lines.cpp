@@ -205,6 +205,30 @@ private slots:
         QVERIFY(document->renumberLine(Kind::Npc, 1, 0, error)); // nothing leads to 1
     }
 
+    // A response belongs to the NPC line numbered last before it.
+    void responsesMovedByARenumbering_data()
+    {
+        QTest::addColumn<bool>("npc");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<QList<int>>("moved");
+        QTest::newRow("NPC line within its gap") << true << 30 << 35 << QList<int>();
+        QTest::newRow("NPC line back before its responses") << true << 10 << 5 << QList<int>();
+        QTest::newRow("NPC line past its responses") << true << 10 << 15 << QList<int>{11, 12};
+        QTest::newRow("NPC line without responses past others'") << true << 20 << 4 << QList<int>();
+        QTest::newRow("response within its NPC line") << false << 11 << 13 << QList<int>();
+        QTest::newRow("response to another NPC line") << false << 11 << 25 << QList<int>{11};
+    }
+
+    void responsesMovedByARenumbering()
+    {
+        QFETCH(bool, npc);
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(QList<int>, moved);
+        QCOMPARE(document->responsesMovedBy(npc ? Kind::Npc : Kind::Pc, from, to), moved);
+    }
+
     void linesNamingALine()
     {
         QCOMPARE(document->dialogue().linesNaming(30), (QList<int>{10, 11, 12, 20}));
@@ -310,6 +334,31 @@ private slots:
         QCOMPARE(answers.count(QStringLiteral("message")), 1);
         QCOMPARE(spin->value(), 30);
         QCOMPARE(page->document()->undoStack()->count(), 0);
+    }
+
+    // A number past other lines would give an NPC line's responses to another: asked first, No by default.
+    void pageAsksBeforeMovingResponses()
+    {
+        const QString path = openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(10));
+        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+        {
+            ScriptedAnswerer answers;
+            spin->setValue(15);
+            emit spin->editingFinished();
+            QCOMPARE(answers.count(QStringLiteral("question")), 1);
+            QCOMPARE(answers.last(QStringLiteral("question"))->text,
+                     QStringLiteral("As line 15, line 10 would change which NPC line offers responses 11, 12. "
+                                    "Renumber it anyway?"));
+            QCOMPARE(spin->value(), 10);
+            QCOMPARE(page->document()->undoStack()->count(), 0);
+        }
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes;
+        spin->setValue(15);
+        emit spin->editingFinished();
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 15);
     }
 
     // A new line takes the keyboard: what is typed next is its text.

@@ -40,6 +40,9 @@ public:
     bool deleteLines(const QList<LineRef>& lines);
     // The other lines that lead to or name any of these, ascending.
     QList<int> linesLeadingTo(const QList<LineRef>& lines) const;
+    // The responses that would be offered by another NPC line after the renumbering, ascending: a
+    // response belongs to the NPC line numbered last before it, so a number past other lines moves them.
+    QList<int> responsesMovedBy(LineKind kind, int from, int to) const;
     // Renumbering updates every line naming the old number in the same step.
     bool renumberLine(LineKind kind, int from, int to, QString& error);
 

@@ -725,6 +725,8 @@ void DialogueEditWidget::renumberOpenLine(int number)
     if (shown == nullptr || was.kind == LineKind::None)
         return;
     applyPendingForm();
+    if (!confirmMovedResponses(was, number))
+        return;
     QString error;
     if (!shown->renumberLine(modelKind(was.kind), was.index, number, error)) {
         // The field shows the line's number again before the message takes the focus from it: leaving
@@ -736,6 +738,31 @@ void DialogueEditWidget::renumberOpenLine(int number)
     history.renumber(static_cast<int>(was.kind), was.index, number);
     renumbered = {was, {was.kind, number}};
     reopen({was.kind, number});
+}
+
+// Moving a line past others changes which NPC line offers which responses: the conversation would read
+// differently, so the user sees which responses and decides. The field shows the line's number again
+// first, for the question takes the focus from it.
+bool DialogueEditWidget::confirmMovedResponses(const OpenLine& line, int number)
+{
+    DialogueDocument* shown = dialogueDocument();
+    int free = number;
+    if (!shown->refusedNumber(QString::number(number), free).isEmpty())
+        return true; // refused anyway, with its own message
+    const QList<int> moved = shown->responsesMovedBy(modelKind(line.kind), line.index, number);
+    if (moved.isEmpty())
+        return true;
+    QStringList numbers;
+    for (int response : moved)
+        numbers << QString::number(response);
+    reopen(line);
+    const QString text = moved.size() == 1
+        ? tr("As line %1, line %2 would change which NPC line offers response %3. Renumber it anyway?")
+              .arg(number).arg(line.index).arg(numbers.first())
+        : tr("As line %1, line %2 would change which NPC line offers responses %3. Renumber it anyway?")
+              .arg(number).arg(line.index).arg(numbers.join(QStringLiteral(", ")));
+    return Prompt::question(this, tr("Change line number"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+           == QMessageBox::Yes;
 }
 
 void DialogueEditWidget::openTarget(int line)

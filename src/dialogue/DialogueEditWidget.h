@@ -94,6 +94,7 @@ private:
     void addLine(LineKind kind);
     void deleteSelectedLines();
     void renumberOpenLine(int number);
+    bool confirmMovedResponses(const OpenLine& line, int number);
     // Opens the line a response leads to; codes of 0 and below end the conversation and open nothing.
     void openTarget(int line);
     void moveInHistory(const std::function<std::optional<LineHistory::Entry>()>& step);
