@@ -13,9 +13,11 @@
 #include "ScriptedAnswerer.h"
 #include "UndoChecks.h"
 
+#include <QGraphicsItem>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -506,6 +508,27 @@ private slots:
         // Response 11 now leads nowhere.
         QCOMPARE(view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11)).marks,
                  int(ConversationGraph::Dangling));
+        view->window()->close();
+    }
+
+    // A click on a box opens its line, keeps that box selected and leaves the view where it was.
+    void graphClickKeepsTheView()
+    {
+        openPage(fileOf(CONVERSATION));
+        QTest::mouseClick(child<QPushButton>("buttonGraph"), Qt::LeftButton);
+        auto* view = page->findChild<ConversationView*>();
+        view->window()->resize(420, 300);
+        QVERIFY(QTest::qWaitForWindowExposed(view->window()));
+        const ConversationGraph::Node& node = view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11));
+        const QSizeF box(ConversationGraph::NODE_WIDTH, ConversationGraph::NODE_HEIGHT);
+        view->ensureVisible(QRectF(node.position - QPointF(box.width() / 2, box.height() / 2), box), 30, 30);
+        const QPoint scrolled(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value());
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(node.position));
+        QCOMPARE(page->findChild<DlgPcLineEditWidget*>()->getOriginalLine()->index(), 11);
+        QCOMPARE(QPoint(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value()), scrolled);
+        const QList<QGraphicsItem*> chosen = view->scene()->selectedItems();
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(chosen.first()->data(0).toInt(), view->graph().find(ConversationGraph::Kind::Pc, 11));
         view->window()->close();
     }
 

@@ -174,7 +174,8 @@ void ConversationView::focusLine(ConversationGraph::Kind kind, int line)
     for (QGraphicsItem* item : scene()->items())
         if (item->data(NODE_ROLE).isValid() && item->data(NODE_ROLE).toInt() == position) {
             item->setSelected(true);
-            centerOn(item);
+            // A box in sight stays where it is; only one out of sight is scrolled to.
+            ensureVisible(item, 20, 20);
         }
 }
 
@@ -203,17 +204,20 @@ void ConversationView::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
+// The view selects the box under the mouse before the line opens: opening it may scroll the view, and
+// the press must not then select whatever box has come under the mouse instead.
 void ConversationView::mousePressEvent(QMouseEvent* event)
 {
-    for (QGraphicsItem* item = itemAt(event->pos()); item != nullptr; item = item->parentItem()) {
-        if (!item->data(NODE_ROLE).isValid())
-            continue;
-        const ConversationGraph::Node& node = shown.nodes().at(item->data(NODE_ROLE).toInt());
-        if (node.kind != ConversationGraph::Kind::End)
-            emit lineActivated(node.kind == ConversationGraph::Kind::Pc, node.line);
-        break;
-    }
+    int position = -1;
+    for (QGraphicsItem* item = itemAt(event->pos()); item != nullptr && position < 0; item = item->parentItem())
+        if (item->data(NODE_ROLE).isValid())
+            position = item->data(NODE_ROLE).toInt();
     QGraphicsView::mousePressEvent(event);
+    if (position < 0)
+        return;
+    const ConversationGraph::Node node = shown.nodes().at(position);
+    if (node.kind != ConversationGraph::Kind::End)
+        emit lineActivated(node.kind == ConversationGraph::Kind::Pc, node.line);
 }
 
 void ConversationView::resizeEvent(QResizeEvent* event)
