@@ -458,6 +458,25 @@ private slots:
         QVERIFY(!page->getModel()->getNPCLine(1));
     }
 
+    // An NPC line's responses go with it in the same step: left behind, they would become answers to the
+    // NPC line before it.
+    void pageDeletesAnNpcLineWithItsResponses()
+    {
+        const QString path = openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(10));
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes;
+        QTest::mouseClick(child<QPushButton>("buttonDelete"), Qt::LeftButton);
+        QCOMPARE(answers.last(QStringLiteral("question"))->text,
+                 QStringLiteral("Line 2 leads to one of lines 10, 11, 12. Delete them anyway?"));
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QStringList without10 = CONVERSATION;
+        without10.erase(without10.begin() + 3, without10.begin() + 6);
+        QCOMPARE(saved(path), fileOf(without10));
+        page->document()->undoStack()->undo();
+        QCOMPARE(saved(path), fileOf(CONVERSATION));
+    }
+
     // Several lines selected in a tree go in one step, after one question listing what leads to any of them.
     void pageDeletesSeveralLines()
     {

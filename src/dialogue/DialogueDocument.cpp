@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTextCodec>
 
+#include <optional>
 #include <set>
 
 using arcanum::DialogueFileNew;
@@ -117,6 +118,19 @@ bool DialogueDocument::deleteLines(const QList<LineRef>& lines)
         recordEdit(tr("Delete %1 lines").arg(deleted));
     emit changed();
     return true;
+}
+
+QList<int> DialogueDocument::responsesOf(int npc) const
+{
+    std::optional<int> next;
+    for (const auto& line : model->npcLines())
+        if (line->index() > npc && (!next || line->index() < *next))
+            next = line->index();
+    QList<int> responses;
+    for (const auto& pc : model->pcLines())
+        if (pc->index() > npc && (!next || pc->index() < *next))
+            responses.append(pc->index());
+    return responses;
 }
 
 QList<int> DialogueDocument::linesLeadingTo(const QList<LineRef>& lines) const

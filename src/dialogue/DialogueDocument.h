@@ -38,6 +38,8 @@ public:
     };
     // Deletes the lines (the first of each kind and number) in one step; false when none is there.
     bool deleteLines(const QList<LineRef>& lines);
+    // The responses an NPC line offers: the PC lines numbered after it, up to the next NPC line.
+    QList<int> responsesOf(int npc) const;
     // The other lines that lead to or name any of these, ascending.
     QList<int> linesLeadingTo(const QList<LineRef>& lines) const;
     // The responses that would be offered by another NPC line after the renumbering, ascending: a

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 #include <QTreeWidgetItemIterator>
 
+#include <algorithm>
 #include <optional>
 
 using arcanum::DialogueFileNew;
@@ -685,10 +686,18 @@ QList<DialogueEditWidget::OpenLine> DialogueEditWidget::selectedLines() const
 void DialogueEditWidget::deleteSelectedLines()
 {
     DialogueDocument* shown = dialogueDocument();
-    const QList<OpenLine> lines = selectedLines();
+    QList<OpenLine> lines = selectedLines();
     if (shown == nullptr || lines.isEmpty())
         return;
     applyPendingForm();
+    // An NPC line's responses go with it; left behind they would be offered by the NPC line before it.
+    for (qsizetype i = 0, selectedCount = lines.size(); i < selectedCount; ++i)
+        if (lines.at(i).kind == LineKind::Npc)
+            for (int response : shown->responsesOf(lines.at(i).index))
+                if (std::none_of(lines.cbegin(), lines.cend(), [response](const OpenLine& line) {
+                        return line.kind == LineKind::Pc && line.index == response;
+                    }))
+                    lines.append({LineKind::Pc, response});
     QList<DialogueDocument::LineRef> refs;
     QStringList deleted;
     for (const OpenLine& line : lines) {
@@ -702,7 +711,9 @@ void DialogueEditWidget::deleteSelectedLines()
             numbers << QString::number(number);
         const QString list = numbers.join(QStringLiteral(", "));
         QString text;
-        if (lines.size() > 1)
+        if (lines.size() > 1 && naming.size() == 1)
+            text = tr("Line %1 leads to one of lines %2. Delete them anyway?").arg(list, deleted.join(QStringLiteral(", ")));
+        else if (lines.size() > 1)
             text = tr("Lines %1 lead to lines %2. Delete them anyway?").arg(list, deleted.join(QStringLiteral(", ")));
         else if (naming.size() == 1)
             text = tr("Line %1 leads to line %2. Delete it anyway?").arg(list, deleted.first());
