@@ -381,6 +381,25 @@ private slots:
         QVERIFY(saved(path).contains("{21}{Who goes there}"));
     }
 
+    // Enter in a tree opens the current line, as a double click does.
+    void pageEnterOpensTheLine()
+    {
+        openPage(fileOf(CONVERSATION));
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        auto* tree = child<QTreeWidget>("treePC");
+        tree->setFocus();
+        tree->setCurrentItem(tree->findItems(QStringLiteral("12"), Qt::MatchExactly, 1).value(0));
+        QTest::keyClick(tree, Qt::Key_Return);
+        QVERIFY(page->findChild<DlgPcLineEditWidget*>()->getOriginalLine());
+        QCOMPARE(page->findChild<DlgPcLineEditWidget*>()->getOriginalLine()->index(), 12);
+        auto* npcTree = child<QTreeWidget>("treeNPC");
+        npcTree->setFocus();
+        npcTree->setCurrentItem(npcTree->findItems(QStringLiteral("40:"), Qt::MatchStartsWith).value(0));
+        QTest::keyClick(npcTree, Qt::Key_Enter);
+        QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 40);
+    }
+
     // The heading says where a response goes: a line, the end, or a game code.
     void pageHeadingNamesEnds_data()
     {

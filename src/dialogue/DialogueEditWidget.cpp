@@ -608,6 +608,14 @@ void DialogueEditWidget::connectLineEditing()
         });
         auto* shortcut = new QShortcut(QKeySequence::Delete, tree, nullptr, nullptr, Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, &DialogueEditWidget::deleteSelectedLines);
+        // Enter opens the current line, as a double click on it does, for those who move by keyboard.
+        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Enter)}) {
+            auto* open = new QShortcut(QKeySequence(key), tree, nullptr, nullptr, Qt::WidgetShortcut);
+            connect(open, &QShortcut::activated, this, [this, tree] {
+                if (const QTreeWidgetItem* item = tree->currentItem())
+                    reopen({static_cast<LineKind>(item->data(0, KIND_ROLE).toInt()), item->data(0, INDEX_ROLE).toInt()});
+            });
+        }
     }
 }
 
