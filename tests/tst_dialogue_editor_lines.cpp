@@ -103,6 +103,19 @@ private:
         return FormatChecks::readFile(path);
     }
 
+    // The Line number field of the open NPC line's form.
+    QSpinBox* lineNumberField() const
+    {
+        return page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+    }
+
+    // A number typed into the field and finished with Enter.
+    static void typeNumber(QSpinBox* field, int number)
+    {
+        field->setValue(number);
+        emit field->editingFinished();
+    }
+
     static std::function<int(QDialog&)> typing(const QString& number)
     {
         return [number](QDialog& dialog) {
@@ -294,17 +307,15 @@ private slots:
     {
         const QString path = openPage(fileOf(CONVERSATION));
         QVERIFY(page->openLine(30));
-        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+        QSpinBox* spin = lineNumberField();
         {
             ScriptedAnswerer answers;
-            spin->setValue(40);
-            emit spin->editingFinished();
+            typeNumber(spin, 40);
             QCOMPARE(answers.count(QStringLiteral("message")), 1);
             QCOMPARE(answers.last(QStringLiteral("message"))->text, QStringLiteral("Line 40 is already in use."));
             QCOMPARE(spin->value(), 30);
         }
-        spin->setValue(35);
-        emit spin->editingFinished();
+        typeNumber(spin, 35);
         QCOMPARE(page->document()->undoStack()->count(), 1);
         QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 35);
         QVERIFY(saved(path).contains("\t{12}{Join?}{}{1}{}{20}{JO 35 40,  zz 5}\r\n"));
@@ -319,7 +330,7 @@ private slots:
     {
         openPage(fileOf(CONVERSATION));
         QVERIFY(page->openLine(30));
-        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+        QSpinBox* spin = lineNumberField();
         struct LeavingTheField : ScriptedAnswerer
         {
             QSpinBox* field = nullptr;
@@ -331,8 +342,7 @@ private slots:
             }
         } answers;
         answers.field = spin;
-        spin->setValue(40);
-        emit spin->editingFinished();
+        typeNumber(spin, 40);
         QCOMPARE(answers.count(QStringLiteral("message")), 1);
         QCOMPARE(spin->value(), 30);
         QCOMPARE(page->document()->undoStack()->count(), 0);
@@ -343,11 +353,10 @@ private slots:
     {
         const QString path = openPage(fileOf(CONVERSATION));
         QVERIFY(page->openLine(10));
-        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+        QSpinBox* spin = lineNumberField();
         {
             ScriptedAnswerer answers;
-            spin->setValue(15);
-            emit spin->editingFinished();
+            typeNumber(spin, 15);
             QCOMPARE(answers.count(QStringLiteral("question")), 1);
             QCOMPARE(answers.last(QStringLiteral("question"))->text,
                      QStringLiteral("As line 15, line 10 would change which NPC line offers responses 11, 12. "
@@ -357,8 +366,7 @@ private slots:
         }
         ScriptedAnswerer answers;
         answers.buttons << QMessageBox::Yes;
-        spin->setValue(15);
-        emit spin->editingFinished();
+        typeNumber(spin, 15);
         QCOMPARE(page->document()->undoStack()->count(), 1);
         QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 15);
     }
@@ -529,9 +537,8 @@ private slots:
         auto* view = page->findChild<ConversationView*>();
         QVERIFY(view);
         QVERIFY(page->openLine(30));
-        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
-        spin->setValue(35);
-        emit spin->editingFinished();
+        QSpinBox* spin = lineNumberField();
+        typeNumber(spin, 35);
         QVERIFY(view->graph().find(ConversationGraph::Kind::Npc, 30) < 0);
         QVERIFY(view->graph().find(ConversationGraph::Kind::Npc, 35) >= 0);
         QCOMPARE(view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11)).marks, 0);
