@@ -16,6 +16,7 @@
 #include <QGraphicsItem>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -387,6 +388,27 @@ private slots:
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Who goes there"));
         QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
         QVERIFY(saved(path).contains("{21}{Who goes there}"));
+    }
+
+    // Leaving the page with the keyboard (for the undo history, another window) applies what the form holds.
+    void pageAppliesTheFormWhenLeft()
+    {
+        openPage(fileOf(CONVERSATION));
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        QVERIFY(page->openLine(40));
+        auto* text = page->findChild<QPlainTextEdit*>(QStringLiteral("maleText"));
+        text->setFocus();
+        text->moveCursor(QTextCursor::End);
+        QTest::keyClicks(text, QStringLiteral(" Or not."));
+        QCOMPARE(page->document()->undoStack()->count(), 0);
+        QLineEdit elsewhere;
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+        elsewhere.setFocus();
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QCOMPARE(page->getModel()->getNPCLine(40)->text(), QStringLiteral("Other. Or not."));
     }
 
     // Enter in a tree opens the current line, as a double click does.

@@ -12,6 +12,7 @@
 #include "WheelGuard.h"
 #include "ui_DialogueEditWidget.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFile>
@@ -74,12 +75,22 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     ui->scrollForms->viewport()->setAutoFillBackground(false);
     ui->scrollFormsContents->setAutoFillBackground(false);
     WheelGuard::install(this);
+    // What is typed into a form goes in as a step when the keyboard leaves the page (for the undo history,
+    // another tab, another window), so whatever is done there finds it in the document.
+    focusWatch = connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
+        if (old != nullptr && isAncestorOf(old) && (now == nullptr || !isAncestorOf(now)))
+            applyPendingForm();
+    });
     closeLine();
     showUnreadText();
     updateControls();
 }
 
-DialogueEditWidget::~DialogueEditWidget() = default;
+// The focus leaves the page's widgets while they go, when this page is no longer one to apply a form.
+DialogueEditWidget::~DialogueEditWidget()
+{
+    disconnect(focusWatch);
+}
 
 QStringList DialogueEditWidget::suffixes() const
 {

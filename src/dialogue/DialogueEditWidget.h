@@ -135,4 +135,5 @@ private:
     // The line last renumbered, as it was and as it became.
     std::pair<OpenLine, OpenLine> renumbered;
     LineHistory history;
+    QMetaObject::Connection focusWatch;
 };
