@@ -27,6 +27,8 @@
 #include <QDirIterator>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTabWidget>
@@ -290,6 +292,11 @@ private slots:
         text->setPlainText(QStringLiteral("First edit."));
         QVERIFY(dialogue->openNpcLine(10)); // applies line 1's form: one step
         text->setPlainText(QStringLiteral("Second edit."));
+        // Opening the Edit menu names what Undo takes back: the form's edit.
+        for (QMenu* menu : window.menuBar()->findChildren<QMenu*>())
+            if (menu->title() == QStringLiteral("&Edit"))
+                emit menu->aboutToShow();
+        QCOMPARE(window.findChild<QAction*>(QStringLiteral("actionUndo"))->text(), QStringLiteral("&Undo Edit NPC line 10"));
         window.findChild<QAction*>(QStringLiteral("actionUndo"))->trigger();
         const auto textOf = [dialogue](int line) { return dialogue->getModel()->getNPCLine(line)->text(); };
         QCOMPARE(textOf(1), QStringLiteral("First edit."));

@@ -228,6 +228,11 @@ void MainWindow::createMenus()
             page->applyPendingEdits();
         undo->redo();
     });
+    // The menu names the step Undo would take back, the form's own edits included.
+    connect(edit, &QMenu::aboutToShow, this, [this] {
+        if (Page* page = currentPage())
+            page->applyPendingEdits();
+    });
     edit->addSeparator();
     edit->addActions({actionFind, actionFindInGame, actionRefresh});
 
