@@ -578,10 +578,13 @@ private slots:
         view->window()->close();
     }
 
-    // A click on a box opens its line, keeps that box selected and leaves the view where it was.
+    // A click on a box opens its line, keeps that box selected and leaves the view where it was; the form
+    // left behind is applied first, which lays the graph out again under the click.
     void graphClickKeepsTheView()
     {
         openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(1));
+        page->findChild<QPlainTextEdit*>(QStringLiteral("maleText"))->setPlainText(QStringLiteral("Hi."));
         QTest::mouseClick(child<QPushButton>("buttonGraph"), Qt::LeftButton);
         auto* view = page->findChild<ConversationView*>();
         view->window()->resize(420, 300);
@@ -592,6 +595,7 @@ private slots:
         const QPoint scrolled(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value());
         QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(node.position));
         QCOMPARE(page->findChild<DlgPcLineEditWidget*>()->getOriginalLine()->index(), 11);
+        QCOMPARE(page->getModel()->getNPCLine(1)->text(), QStringLiteral("Hi."));
         QCOMPARE(QPoint(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value()), scrolled);
         const QList<QGraphicsItem*> chosen = view->scene()->selectedItems();
         QCOMPARE(chosen.size(), 1);
