@@ -181,19 +181,17 @@ private slots:
         QStringList npcIndices;
         for (const QString& text : outline(treeNPC(), 0))
             npcIndices << text.section(QLatin1Char(':'), 0, 0).trimmed();
-        const QStringList expected = {"1", "PC response line", "PC response line", "PC response line",
-                                      "PC response line", "PC response line", "PC response line",
-                                      "10", "PC response line", "20", "PC response line", "PC response line",
-                                      "30", "40", "PC response line", "PC response line", "50", "PC response line"};
+        const QStringList expected = {"1",  "PC 2",  "PC 3", "PC 4", "PC 5",  "PC 6",  "PC 7", "10",   "PC 11",
+                                      "20", "PC 21", "PC 22", "30",  "40",  "PC 41", "PC 42", "50", "PC 51"};
         QCOMPARE(npcIndices, expected);
         QCOMPARE(treeNPC()->topLevelItem(0)->child(2)->text(0),
-                 QStringLiteral("PC response line: 4: I seek my brother, a gnome named Tobbin."));
+                 QStringLiteral("PC 4: I seek my brother, a gnome named Tobbin."));
         QCOMPARE(treeNPC()->topLevelItem(0)->child(2)->text(1), QStringLiteral("→ 30"));
         QCOMPARE(treeNPC()->topLevelItem(1)->text(0),
                  QStringLiteral("10: There is always work for willing hands. …"));
         QVERIFY(treeNPC()->topLevelItem(1)->text(1).isEmpty());
         // The last NPC line lists the PC lines after it; Windows-1251 texts arrive as Cyrillic.
-        QCOMPARE(treeNPC()->topLevelItem(5)->child(0)->text(0), QString::fromUtf8("PC response line: 51: Спасибо."));
+        QCOMPARE(treeNPC()->topLevelItem(5)->child(0)->text(0), QString::fromUtf8("PC 51: Спасибо."));
 
         QCOMPARE(outline(treePC(), 1), QStringList({"2", "3", "4", "5", "6", "7", "11", "21", "22", "41", "42", "51"}));
         QCOMPARE(outline(treePC(), 0).first(), QStringLiteral("10"));
@@ -213,7 +211,7 @@ private slots:
                                                           "\t{2}{Same index.}{}{1}{}{0}{}\r\n"
                                                           "\t{3}{Bye.}{}{1}{}{0}{}\r\n"
                                                           "{5}{Later.}{}{}{}{}{}\r\n"));
-        QCOMPARE(outline(treeNPC(), 0), QStringList({"2: Hello.", "  PC response line: 3: Bye.", "5: Later."}));
+        QCOMPARE(outline(treeNPC(), 0), QStringList({"2: Hello.", "  PC 3: Bye.", "5: Later."}));
         QCOMPARE(outline(treePC(), 1), QStringList({"1", "2", "3"}));
     }
 

@@ -13,9 +13,12 @@
 #include "ScriptedAnswerer.h"
 #include "UndoChecks.h"
 
+#include <QGraphicsItem>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -99,6 +102,19 @@ private:
         if (!page->saveAs())
             return QByteArray("save failed");
         return FormatChecks::readFile(path);
+    }
+
+    // The Line number field of the open NPC line's form.
+    QSpinBox* lineNumberField() const
+    {
+        return page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+    }
+
+    // A number typed into the field and finished with Enter.
+    static void typeNumber(QSpinBox* field, int number)
+    {
+        field->setValue(number);
+        emit field->editingFinished();
     }
 
     static std::function<int(QDialog&)> typing(const QString& number)
@@ -205,6 +221,30 @@ private slots:
         QVERIFY(document->renumberLine(Kind::Npc, 1, 0, error)); // nothing leads to 1
     }
 
+    // A response belongs to the NPC line numbered last before it.
+    void responsesMovedByARenumbering_data()
+    {
+        QTest::addColumn<bool>("npc");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<QList<int>>("moved");
+        QTest::newRow("NPC line within its gap") << true << 30 << 35 << QList<int>();
+        QTest::newRow("NPC line back before its responses") << true << 10 << 5 << QList<int>();
+        QTest::newRow("NPC line past its responses") << true << 10 << 15 << QList<int>{11, 12};
+        QTest::newRow("NPC line without responses past others'") << true << 20 << 4 << QList<int>();
+        QTest::newRow("response within its NPC line") << false << 11 << 13 << QList<int>();
+        QTest::newRow("response to another NPC line") << false << 11 << 25 << QList<int>{11};
+    }
+
+    void responsesMovedByARenumbering()
+    {
+        QFETCH(bool, npc);
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(QList<int>, moved);
+        QCOMPARE(document->responsesMovedBy(npc ? Kind::Npc : Kind::Pc, from, to), moved);
+    }
+
     void linesNamingALine()
     {
         QCOMPARE(document->dialogue().linesNaming(30), (QList<int>{10, 11, 12, 20}));
@@ -268,23 +308,145 @@ private slots:
     {
         const QString path = openPage(fileOf(CONVERSATION));
         QVERIFY(page->openLine(30));
-        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
+        QSpinBox* spin = lineNumberField();
         {
             ScriptedAnswerer answers;
-            spin->setValue(40);
-            emit spin->editingFinished();
+            typeNumber(spin, 40);
             QCOMPARE(answers.count(QStringLiteral("message")), 1);
             QCOMPARE(answers.last(QStringLiteral("message"))->text, QStringLiteral("Line 40 is already in use."));
             QCOMPARE(spin->value(), 30);
         }
-        spin->setValue(35);
-        emit spin->editingFinished();
+        typeNumber(spin, 35);
         QCOMPARE(page->document()->undoStack()->count(), 1);
         QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 35);
         QVERIFY(saved(path).contains("\t{12}{Join?}{}{1}{}{20}{JO 35 40,  zz 5}\r\n"));
         page->document()->undoStack()->undo();
         QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 30); // still open
         QCOMPARE(saved(path), fileOf(CONVERSATION));
+    }
+
+    // Return finishes the field's editing, and so does the message taking the focus from it: the refusal
+    // is said once, and the field shows the line's number again.
+    void pageRefusesARenumberingOnce()
+    {
+        openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(30));
+        QSpinBox* spin = lineNumberField();
+        struct LeavingTheField : ScriptedAnswerer
+        {
+            QSpinBox* field = nullptr;
+            void message(QMessageBox::Icon icon, const QString& title, const QString& text) override
+            {
+                ScriptedAnswerer::message(icon, title, text);
+                if (count(QStringLiteral("message")) == 1)
+                    emit field->editingFinished();
+            }
+        } answers;
+        answers.field = spin;
+        typeNumber(spin, 40);
+        QCOMPARE(answers.count(QStringLiteral("message")), 1);
+        QCOMPARE(spin->value(), 30);
+        QCOMPARE(page->document()->undoStack()->count(), 0);
+    }
+
+    // A number past other lines would give an NPC line's responses to another: asked first, No by default.
+    void pageAsksBeforeMovingResponses()
+    {
+        const QString path = openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(10));
+        QSpinBox* spin = lineNumberField();
+        {
+            ScriptedAnswerer answers;
+            typeNumber(spin, 15);
+            QCOMPARE(answers.count(QStringLiteral("question")), 1);
+            QCOMPARE(answers.last(QStringLiteral("question"))->text,
+                     QStringLiteral("As line 15, line 10 would change which NPC line offers responses 11, 12. "
+                                    "Renumber it anyway?"));
+            QCOMPARE(spin->value(), 10);
+            QCOMPARE(page->document()->undoStack()->count(), 0);
+        }
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes;
+        typeNumber(spin, 15);
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 15);
+    }
+
+    // A new line takes the keyboard: what is typed next is its text.
+    void pageAddedLineTakesTheKeyboard()
+    {
+        const QString path = openPage(fileOf(CONVERSATION));
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        QVERIFY(page->openLine(20));
+        ScriptedAnswerer answers;
+        answers.dialogs << typing(QStringLiteral("21"));
+        auto* add = child<QPushButton>("buttonAddNpc");
+        add->setFocus();
+        QTest::mouseClick(add, Qt::LeftButton);
+        QVERIFY(QApplication::focusWidget() != nullptr);
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Who goes there"));
+        QCOMPARE(answers.count(QStringLiteral("dialog")), 1);
+        QVERIFY(saved(path).contains("{21}{Who goes there}"));
+    }
+
+    // Leaving the page with the keyboard (for the undo history, another window) applies what the form holds.
+    void pageAppliesTheFormWhenLeft()
+    {
+        openPage(fileOf(CONVERSATION));
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        QVERIFY(page->openLine(40));
+        auto* text = page->findChild<QPlainTextEdit*>(QStringLiteral("maleText"));
+        text->setFocus();
+        text->moveCursor(QTextCursor::End);
+        QTest::keyClicks(text, QStringLiteral(" Or not."));
+        QCOMPARE(page->document()->undoStack()->count(), 0);
+        QLineEdit elsewhere;
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+        elsewhere.setFocus();
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QCOMPARE(page->getModel()->getNPCLine(40)->text(), QStringLiteral("Other. Or not."));
+    }
+
+    // Enter in a tree opens the current line, as a double click does.
+    void pageEnterOpensTheLine()
+    {
+        openPage(fileOf(CONVERSATION));
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        auto* tree = child<QTreeWidget>("treePC");
+        tree->setFocus();
+        tree->setCurrentItem(tree->findItems(QStringLiteral("12"), Qt::MatchExactly, 1).value(0));
+        QTest::keyClick(tree, Qt::Key_Return);
+        QVERIFY(page->findChild<DlgPcLineEditWidget*>()->getOriginalLine());
+        QCOMPARE(page->findChild<DlgPcLineEditWidget*>()->getOriginalLine()->index(), 12);
+        auto* npcTree = child<QTreeWidget>("treeNPC");
+        npcTree->setFocus();
+        npcTree->setCurrentItem(npcTree->findItems(QStringLiteral("40:"), Qt::MatchStartsWith).value(0));
+        QTest::keyClick(npcTree, Qt::Key_Enter);
+        QCOMPARE(page->findChild<DlgNpcLineEditWidget*>()->getOriginalLine()->index(), 40);
+    }
+
+    // The heading says where a response goes: a line, the end, or a game code.
+    void pageHeadingNamesEnds_data()
+    {
+        QTest::addColumn<int>("line");
+        QTest::addColumn<QString>("heading");
+        QTest::newRow("line") << 11 << QStringLiteral("answered by NPC line");
+        QTest::newRow("end") << 3 << QStringLiteral("ends the conversation");
+        QTest::newRow("game code") << 5 << QStringLiteral("ends the conversation with game code -1");
+    }
+
+    void pageHeadingNamesEnds()
+    {
+        QFETCH(int, line);
+        QFETCH(QString, heading);
+        openPage(fileOf(inserted(CONVERSATION, 3, QStringLiteral("\t{5}{Trade.}{}{1}{}{-1}{}"))));
+        QVERIFY(page->openPcLine(line));
+        QVERIFY2(child<QLabel>("labelOpenLine")->text().contains(heading), qPrintable(child<QLabel>("labelOpenLine")->text()));
     }
 
     void pageAddsAfterTheSelectedLine()
@@ -345,6 +507,25 @@ private slots:
         QVERIFY(!page->getModel()->getNPCLine(1));
     }
 
+    // An NPC line's responses go with it in the same step: left behind, they would become answers to the
+    // NPC line before it.
+    void pageDeletesAnNpcLineWithItsResponses()
+    {
+        const QString path = openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(10));
+        ScriptedAnswerer answers;
+        answers.buttons << QMessageBox::Yes;
+        QTest::mouseClick(child<QPushButton>("buttonDelete"), Qt::LeftButton);
+        QCOMPARE(answers.last(QStringLiteral("question"))->text,
+                 QStringLiteral("Line 2 leads to one of lines 10, 11, 12. Delete them anyway?"));
+        QCOMPARE(page->document()->undoStack()->count(), 1);
+        QStringList without10 = CONVERSATION;
+        without10.erase(without10.begin() + 3, without10.begin() + 6);
+        QCOMPARE(saved(path), fileOf(without10));
+        page->document()->undoStack()->undo();
+        QCOMPARE(saved(path), fileOf(CONVERSATION));
+    }
+
     // Several lines selected in a tree go in one step, after one question listing what leads to any of them.
     void pageDeletesSeveralLines()
     {
@@ -378,9 +559,8 @@ private slots:
         auto* view = page->findChild<ConversationView*>();
         QVERIFY(view);
         QVERIFY(page->openLine(30));
-        auto* spin = page->findChild<DlgNpcLineEditWidget*>()->findChild<QSpinBox*>(QStringLiteral("spinLineNumber"));
-        spin->setValue(35);
-        emit spin->editingFinished();
+        QSpinBox* spin = lineNumberField();
+        typeNumber(spin, 35);
         QVERIFY(view->graph().find(ConversationGraph::Kind::Npc, 30) < 0);
         QVERIFY(view->graph().find(ConversationGraph::Kind::Npc, 35) >= 0);
         QCOMPARE(view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11)).marks, 0);
@@ -395,6 +575,31 @@ private slots:
         // Response 11 now leads nowhere.
         QCOMPARE(view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11)).marks,
                  int(ConversationGraph::Dangling));
+        view->window()->close();
+    }
+
+    // A click on a box opens its line, keeps that box selected and leaves the view where it was; the form
+    // left behind is applied first, which lays the graph out again under the click.
+    void graphClickKeepsTheView()
+    {
+        openPage(fileOf(CONVERSATION));
+        QVERIFY(page->openLine(1));
+        page->findChild<QPlainTextEdit*>(QStringLiteral("maleText"))->setPlainText(QStringLiteral("Hi."));
+        QTest::mouseClick(child<QPushButton>("buttonGraph"), Qt::LeftButton);
+        auto* view = page->findChild<ConversationView*>();
+        view->window()->resize(420, 300);
+        QVERIFY(QTest::qWaitForWindowExposed(view->window()));
+        const ConversationGraph::Node& node = view->graph().nodes().at(view->graph().find(ConversationGraph::Kind::Pc, 11));
+        const QSizeF box(ConversationGraph::NODE_WIDTH, ConversationGraph::NODE_HEIGHT);
+        view->ensureVisible(QRectF(node.position - QPointF(box.width() / 2, box.height() / 2), box), 30, 30);
+        const QPoint scrolled(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value());
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(node.position));
+        QCOMPARE(page->findChild<DlgPcLineEditWidget*>()->getOriginalLine()->index(), 11);
+        QCOMPARE(page->getModel()->getNPCLine(1)->text(), QStringLiteral("Hi."));
+        QCOMPARE(QPoint(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value()), scrolled);
+        const QList<QGraphicsItem*> chosen = view->scene()->selectedItems();
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(chosen.first()->data(0).toInt(), view->graph().find(ConversationGraph::Kind::Pc, 11));
         view->window()->close();
     }
 

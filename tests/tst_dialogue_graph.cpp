@@ -112,7 +112,7 @@ private slots:
         const int node = graph.find(Graph::Kind(kind), line);
         QVERIFY(node >= 0);
         QCOMPARE(graph.nodes().at(node).marks, marks);
-        // Every end code has one marker, below the response that leads there.
+        // An end marker sits below the response that leads there.
         if (Graph::Kind(kind) == Graph::Kind::End)
             QVERIFY(graph.nodes().at(node).layer > 0);
     }
@@ -156,6 +156,28 @@ private slots:
         }
         // Top-down from the first line: every onward arrow points down.
         QCOMPARE(graph.nodes().at(graph.find(Graph::Kind::Npc, 4)).layer, 2);
+    }
+
+    // Every ending response has its own marker one layer below it: no arrow climbs back to a shared one.
+    void endsSitUnderTheirResponses()
+    {
+        QString text;
+        for (int i = 0; i < 40; ++i) {
+            const int npc = i * 10 + 1;
+            text += QStringLiteral("{%1}{Line %1}{}{}{}{}{}\n").arg(npc);
+            text += QStringLiteral("{%1}{On}{}{1}{}{%2}{}\n").arg(npc + 1).arg(npc + 10);
+            text += QStringLiteral("{%1}{Bye}{}{1}{}{%2}{}\n").arg(npc + 2).arg(i % 2 == 0 ? 0 : -1);
+        }
+        const Graph graph = Graph::build(dialogueOf(text));
+        int ends = 0;
+        for (const Graph::Edge& edge : graph.edges()) {
+            const Graph::Node& to = graph.nodes().at(edge.to);
+            if (to.kind != Graph::Kind::End)
+                continue;
+            ++ends;
+            QCOMPARE(to.layer, graph.nodes().at(edge.from).layer + 1);
+        }
+        QCOMPARE(ends, 40);
     }
 
     void clickOpensTheLine()

@@ -72,6 +72,8 @@ private slots:
         action->trigger();
         dialog = window->findChild<FindInGameDialog*>();
         QVERIFY(dialog && dialog->isVisible());
+        // Nothing runs yet: there is nothing to cancel.
+        QVERIFY(!dialog->findChild<QPushButton*>("findCancel")->isEnabled());
     }
 
     void cleanupTestCase()
@@ -159,6 +161,30 @@ private slots:
         QVERIFY(finished.wait(10000));
         QVERIFY(dialog->findChild<QPushButton*>("findStart")->isEnabled());
         QVERIFY(!dialog->findChild<QPushButton*>("findCancel")->isEnabled());
+    }
+
+    // Escape puts the dialog away; the search it started stops with it (a game large enough to be still
+    // searching then).
+    void escapeStopsTheSearch()
+    {
+        QTemporaryDir large;
+        QVERIFY(QDir().mkpath(large.filePath("data/mes")));
+        for (int i = 0; i < 5000; ++i) {
+            QFile file(large.filePath(QStringLiteral("data/mes/m%1.mes").arg(i)));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("{1}{Some text}\r\n");
+        }
+        QVERIFY(window->changeBaseDir(large.path()));
+        dialog->findChild<QLineEdit*>("findPattern")->setText("e");
+        QSignalSpy finished(dialog, &FindInGameDialog::searchFinished);
+        dialog->start();
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
+        QVERIFY(finished.wait(10000));
+        QVERIFY2(dialog->findChild<QLabel*>("findStatus")->text().startsWith("Cancelled"),
+                 qPrintable(dialog->findChild<QLabel*>("findStatus")->text()));
+        QVERIFY(window->changeBaseDir(game.path()));
+        dialog->show();
     }
 };
 

@@ -29,6 +29,8 @@
 #include <QDirIterator>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTabWidget>
@@ -276,6 +278,33 @@ private slots:
         QVERIFY(!window.isWindowModified());
         QCOMPARE(tabs->tabText(tabs->currentIndex()), QStringLiteral("Mes"));
         QVERIFY(window.findChild<QAction*>(QStringLiteral("actionRedo"))->isEnabled());
+    }
+
+    // Undo while a dialogue line's form holds typed text takes that text back as a step of its own (and
+    // Redo brings it back) instead of undoing the step before and dropping the text.
+    void undoKeepsWhatAFormHolds()
+    {
+        ScratchGame game;
+        MainWindow window;
+        window.openFiles({game.path(QStringLiteral("/data/dlg/sample_dialogue.dlg"))});
+        auto* dialogue = window.findChild<DialogueEditWidget*>();
+        QVERIFY(dialogue->document());
+        auto* text = dialogue->findChild<QPlainTextEdit*>(QStringLiteral("maleText"));
+        QVERIFY(dialogue->openNpcLine(1));
+        text->setPlainText(QStringLiteral("First edit."));
+        QVERIFY(dialogue->openNpcLine(10)); // applies line 1's form: one step
+        text->setPlainText(QStringLiteral("Second edit."));
+        // Opening the Edit menu names what Undo takes back: the form's edit.
+        for (QMenu* menu : window.menuBar()->findChildren<QMenu*>())
+            if (menu->title() == QStringLiteral("&Edit"))
+                emit menu->aboutToShow();
+        QCOMPARE(window.findChild<QAction*>(QStringLiteral("actionUndo"))->text(), QStringLiteral("&Undo Edit NPC line 10"));
+        window.findChild<QAction*>(QStringLiteral("actionUndo"))->trigger();
+        const auto textOf = [dialogue](int line) { return dialogue->getModel()->getNPCLine(line)->text(); };
+        QCOMPARE(textOf(1), QStringLiteral("First edit."));
+        QVERIFY(textOf(10) != QStringLiteral("Second edit."));
+        window.findChild<QAction*>(QStringLiteral("actionRedo"))->trigger();
+        QCOMPARE(textOf(10), QStringLiteral("Second edit."));
     }
 
     void standardKeys()

@@ -1077,10 +1077,6 @@
         <translation>Разговор: %1</translation>
     </message>
     <message>
-        <source>PC response line:</source>
-        <translation>Строка ответа PC:</translation>
-    </message>
-    <message>
         <source>Edit PC line %1</source>
         <translation>Изменить реплику PC %1</translation>
     </message>
@@ -1203,6 +1199,30 @@
     <message>
         <source>File encoding:</source>
         <translation>Кодировка файла:</translation>
+    </message>
+    <message>
+        <source>PC %1: %2</source>
+        <translation>PC %1: %2</translation>
+    </message>
+    <message>
+        <source> — ends the conversation</source>
+        <translation> — завершает разговор</translation>
+    </message>
+    <message>
+        <source> — ends the conversation with game code %1</source>
+        <translation> — завершает разговор игровым кодом %1</translation>
+    </message>
+    <message>
+        <source>Line %1 leads to one of lines %2. Delete them anyway?</source>
+        <translation>Строка %1 ведёт на одну из строк %2. Всё равно удалить их?</translation>
+    </message>
+    <message>
+        <source>As line %1, line %2 would change which NPC line offers response %3. Renumber it anyway?</source>
+        <translation>Под номером %1 строка %2 изменит, какая реплика NPC предлагает ответ %3. Всё равно перенумеровать?</translation>
+    </message>
+    <message>
+        <source>As line %1, line %2 would change which NPC line offers responses %3. Renumber it anyway?</source>
+        <translation>Под номером %1 строка %2 изменит, какая реплика NPC предлагает ответы %3. Всё равно перенумеровать?</translation>
     </message>
 </context>
 <context>

@@ -225,6 +225,25 @@ void MainWindow::createMenus()
     redoAction->setShortcut(QKeySequence::Redo);
     redoAction->setObjectName(QStringLiteral("actionRedo"));
     edit->addActions({undoAction, redoAction});
+    // A form's unapplied edits become a step first, so Undo takes back what was typed last and Redo
+    // does not throw it away.
+    disconnect(undoAction, &QAction::triggered, undo, &QUndoGroup::undo);
+    disconnect(redoAction, &QAction::triggered, undo, &QUndoGroup::redo);
+    connect(undoAction, &QAction::triggered, this, [this] {
+        if (Page* page = currentPage())
+            page->applyPendingEdits();
+        undo->undo();
+    });
+    connect(redoAction, &QAction::triggered, this, [this] {
+        if (Page* page = currentPage())
+            page->applyPendingEdits();
+        undo->redo();
+    });
+    // The menu names the step Undo would take back, the form's own edits included.
+    connect(edit, &QMenu::aboutToShow, this, [this] {
+        if (Page* page = currentPage())
+            page->applyPendingEdits();
+    });
     edit->addSeparator();
     edit->addActions({actionFind, actionFindInGame, actionRefresh});
 

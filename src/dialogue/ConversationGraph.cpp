@@ -103,17 +103,17 @@ void ConversationGraph::markDuplicates()
     }
 }
 
+// Each ending response gets a marker of its own right below it: one marker shared by a whole conversation
+// would draw arrows from every layer back up to wherever it first sat.
 int ConversationGraph::endNode(int code)
 {
-    const int existing = find(Kind::End, code);
-    if (existing >= 0)
-        return existing;
     Node node;
     node.kind = Kind::End;
     node.line = code;
     node.label = code == 0 ? QCoreApplication::translate("ConversationGraph", "end")
                            : QCoreApplication::translate("ConversationGraph", "game code %1").arg(code);
-    byLine.insert(key(Kind::End, code), int(nodeList.size()));
+    if (!byLine.contains(key(Kind::End, code)))
+        byLine.insert(key(Kind::End, code), int(nodeList.size()));
     nodeList.append(node);
     return int(nodeList.size()) - 1;
 }
@@ -132,12 +132,7 @@ void ConversationGraph::addEdges(const arcanum::DialogueFileNew& dialogue)
     for (const auto& npc : dialogue.npcLines()) {
         if (npc->responseLine() <= 0)
             continue;
-        const int from = find(Kind::Npc, npc->index());
-        const int to = lineNode(npc->responseLine());
-        if (to < 0)
-            nodeList[from].marks |= Dangling;
-        else
-            edgeList.append(Edge{from, to});
+        leadTo(find(Kind::Npc, npc->index()), lineNode(npc->responseLine()));
     }
     for (const auto& pc : dialogue.pcLines()) {
         const int from = find(Kind::Pc, pc->index());
@@ -149,12 +144,25 @@ void ConversationGraph::addEdges(const arcanum::DialogueFileNew& dialogue)
             edgeList.append(Edge{from, endNode(target)});
             continue;
         }
-        const int to = find(Kind::Npc, target);
-        if (to < 0)
-            nodeList[from].marks |= Dangling;
-        else
-            edgeList.append(Edge{from, to});
+        leadTo(from, find(Kind::Npc, target));
     }
+}
+
+// A line whose target is not in the file leads nowhere, which is marked on the line instead of drawn.
+void ConversationGraph::leadTo(int from, int to)
+{
+    if (to < 0)
+        nodeList[from].marks |= Dangling;
+    else
+        edgeList.append(Edge{from, to});
+}
+
+QVector<QVector<int>> ConversationGraph::successors() const
+{
+    QVector<QVector<int>> next(nodeList.size());
+    for (const Edge& edge : edgeList)
+        next[edge.from].append(edge.to);
+    return next;
 }
 
 // NPC lines but the first that no arrow reaches and no test or result names (a join or an unwait goes
@@ -183,9 +191,7 @@ void ConversationGraph::markUnnamed(const arcanum::DialogueFileNew& dialogue)
 
 void ConversationGraph::assignLayers()
 {
-    QVector<QVector<int>> next(nodeList.size());
-    for (const Edge& edge : std::as_const(edgeList))
-        next[edge.from].append(edge.to);
+    const QVector<QVector<int>> next = successors();
     // Breadth first from the first NPC line, then from every line nothing reached, each below the rest.
     QVector<int> layer(nodeList.size(), -1);
     int deepest = -1;
@@ -213,11 +219,9 @@ void ConversationGraph::assignLayers()
 void ConversationGraph::placeLayers()
 {
     std::map<int, QVector<int>> layers;
-    QVector<QVector<int>> next(nodeList.size());
+    const QVector<QVector<int>> next = successors();
     for (int i = 0; i < nodeList.size(); ++i)
         layers[nodeList[i].layer].append(i);
-    for (const Edge& edge : std::as_const(edgeList))
-        next[edge.from].append(edge.to);
     QVector<double> parentX(nodeList.size(), 0);
     QVector<int> parents(nodeList.size(), 0);
     for (auto& [number, members] : layers) {

@@ -40,7 +40,7 @@ public:
 
     const QVector<Node>& nodes() const { return nodeList; }
     const QVector<Edge>& edges() const { return edgeList; }
-    // The node of an NPC or PC line, or of the end marker of a code; -1 when there is none.
+    // The node of an NPC or PC line, or the first end marker of a code; -1 when there is none.
     int find(Kind kind, int line) const;
 
 private:
@@ -48,6 +48,9 @@ private:
     void addEdges(const arcanum::DialogueFileNew& dialogue);
     void markUnnamed(const arcanum::DialogueFileNew& dialogue);
     int endNode(int code);
+    void leadTo(int from, int to);
+    // The nodes each node's arrows lead to.
+    QVector<QVector<int>> successors() const;
     void markDuplicates();
     void assignLayers();
     void markNotes(const arcanum::DialogueFileNew& dialogue);

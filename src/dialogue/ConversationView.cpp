@@ -51,10 +51,10 @@ ConversationView::ConversationView(QWidget* parent)
     legend->setTextFormat(Qt::RichText);
     legend->setStyleSheet(QStringLiteral("QLabel { background: rgba(255,255,255,220); border: 1px solid #999; padding: 4px; }"));
     const auto swatch = [](const QColor& colour, const QString& text) {
-        return QStringLiteral("<span style='background:%1'>&nbsp;&nbsp;&nbsp;&nbsp;</span> %2<br>").arg(colour.name(), text);
+        return QStringLiteral("<span style='background:%1'>&nbsp;&nbsp;&nbsp;&nbsp;</span> %2").arg(colour.name(), text);
     };
     ConversationGraph::Node sample;
-    QString text;
+    QStringList rows;
     for (const auto& [kind, marks, words] :
          std::vector<std::tuple<ConversationGraph::Kind, int, QString>>{
              {ConversationGraph::Kind::Npc, 0, tr("NPC line")},
@@ -67,9 +67,10 @@ ConversationView::ConversationView(QWidget* parent)
              {ConversationGraph::Kind::Npc, ConversationGraph::Note, tr("line has notes (the game reads it)")}}) {
         sample.kind = kind;
         sample.marks = marks;
-        text += swatch(colourOf(sample), words);
+        rows.append(swatch(colourOf(sample), words));
     }
-    legend->setText(text);
+    // Rows joined, not ended, by breaks: a break after the last would leave an empty row in the box.
+    legend->setText(rows.join(QStringLiteral("<br>")));
     legend->adjustSize();
 }
 
@@ -176,7 +177,8 @@ void ConversationView::focusLine(ConversationGraph::Kind kind, int line)
     for (QGraphicsItem* item : scene()->items())
         if (item->data(NODE_ROLE).isValid() && item->data(NODE_ROLE).toInt() == position) {
             item->setSelected(true);
-            centerOn(item);
+            // A box in sight stays where it is; only one out of sight is scrolled to.
+            ensureVisible(item, 20, 20);
         }
 }
 
@@ -205,17 +207,20 @@ void ConversationView::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
+// The view selects the box under the mouse before the line opens: opening it may scroll the view, and
+// the press must not then select whatever box has come under the mouse instead.
 void ConversationView::mousePressEvent(QMouseEvent* event)
 {
-    for (QGraphicsItem* item = itemAt(event->pos()); item != nullptr; item = item->parentItem()) {
-        if (!item->data(NODE_ROLE).isValid())
-            continue;
-        const ConversationGraph::Node& node = shown.nodes().at(item->data(NODE_ROLE).toInt());
-        if (node.kind != ConversationGraph::Kind::End)
-            emit lineActivated(node.kind == ConversationGraph::Kind::Pc, node.line);
-        break;
-    }
+    int position = -1;
+    for (QGraphicsItem* item = itemAt(event->pos()); item != nullptr && position < 0; item = item->parentItem())
+        if (item->data(NODE_ROLE).isValid())
+            position = item->data(NODE_ROLE).toInt();
     QGraphicsView::mousePressEvent(event);
+    if (position < 0)
+        return;
+    const ConversationGraph::Node node = shown.nodes().at(position);
+    if (node.kind != ConversationGraph::Kind::End)
+        emit lineActivated(node.kind == ConversationGraph::Kind::Pc, node.line);
 }
 
 void ConversationView::resizeEvent(QResizeEvent* event)

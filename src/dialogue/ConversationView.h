@@ -18,7 +18,7 @@ public:
 
     void showGraph(const ConversationGraph& graph);
     const ConversationGraph& graph() const { return shown; }
-    // Centres the view on a line's box and selects it.
+    // Selects a line's box and scrolls it into sight.
     void focusLine(ConversationGraph::Kind kind, int line);
     static QColor colourOf(const ConversationGraph::Node& node);
 

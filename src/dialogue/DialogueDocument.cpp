@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTextCodec>
 
+#include <optional>
 #include <set>
 
 using arcanum::DialogueFileNew;
@@ -123,6 +124,19 @@ bool DialogueDocument::deleteLines(const QList<LineRef>& lines)
     return true;
 }
 
+QList<int> DialogueDocument::responsesOf(int npc) const
+{
+    std::optional<int> next;
+    for (const auto& line : model->npcLines())
+        if (line->index() > npc && (!next || line->index() < *next))
+            next = line->index();
+    QList<int> responses;
+    for (const auto& pc : model->pcLines())
+        if (pc->index() > npc && (!next || pc->index() < *next))
+            responses.append(pc->index());
+    return responses;
+}
+
 QList<int> DialogueDocument::linesLeadingTo(const QList<LineRef>& lines) const
 {
     std::set<int> deleted;
@@ -134,6 +148,30 @@ QList<int> DialogueDocument::linesLeadingTo(const QList<LineRef>& lines) const
             if (deleted.count(other) == 0)
                 leading.insert(other);
     return QList<int>(leading.begin(), leading.end());
+}
+
+QList<int> DialogueDocument::responsesMovedBy(LineKind kind, int from, int to) const
+{
+    const auto renamed = [&](LineKind lineKind, int number) { return lineKind == kind && number == from ? to : number; };
+    std::set<int> before;
+    std::set<int> after;
+    for (const auto& npc : model->npcLines()) {
+        before.insert(npc->index());
+        after.insert(renamed(LineKind::Npc, npc->index()));
+    }
+    // The NPC line offering a response numbered so; -1 for none.
+    const auto owner = [](const std::set<int>& npcs, int response) {
+        const auto next = npcs.lower_bound(response);
+        return next == npcs.begin() ? -1 : *std::prev(next);
+    };
+    QList<int> moved;
+    for (const auto& pc : model->pcLines()) {
+        const int ownerBefore = owner(before, pc->index());
+        const int ownerAfter = owner(after, renamed(LineKind::Pc, pc->index()));
+        if (ownerAfter != (ownerBefore < 0 ? -1 : renamed(LineKind::Npc, ownerBefore)))
+            moved.append(pc->index());
+    }
+    return moved;
 }
 
 // A line numbered 0 would turn every response leading to it into the end of the conversation.

@@ -44,8 +44,13 @@ public:
     };
     // Deletes the lines (the first of each kind and number) in one step; false when none is there.
     bool deleteLines(const QList<LineRef>& lines);
+    // The responses an NPC line offers: the PC lines numbered after it, up to the next NPC line.
+    QList<int> responsesOf(int npc) const;
     // The other lines that lead to or name any of these, ascending.
     QList<int> linesLeadingTo(const QList<LineRef>& lines) const;
+    // The responses that would be offered by another NPC line after the renumbering, ascending: a
+    // response belongs to the NPC line numbered last before it, so a number past other lines moves them.
+    QList<int> responsesMovedBy(LineKind kind, int from, int to) const;
     // Renumbering updates every line naming the old number in the same step.
     bool renumberLine(LineKind kind, int from, int to, QString& error);
 

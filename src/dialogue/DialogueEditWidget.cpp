@@ -30,6 +30,7 @@
 #include <QVBoxLayout>
 #include <QTreeWidgetItemIterator>
 
+#include <algorithm>
 #include <optional>
 
 using arcanum::DialogueFileNew;
@@ -92,12 +93,22 @@ DialogueEditWidget::DialogueEditWidget(QWidget* parent)
     connect(problems, &DialogueProblemsPanel::lineActivated, this,
             [this](bool pc, int line) { pc ? openPcLine(line) : openNpcLine(line); });
     WheelGuard::install(this);
+    // What is typed into a form goes in as a step when the keyboard leaves the page (for the undo history,
+    // another tab, another window), so whatever is done there finds it in the document.
+    focusWatch = connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
+        if (old != nullptr && isAncestorOf(old) && (now == nullptr || !isAncestorOf(now)))
+            applyPendingForm();
+    });
     closeLine();
     showUnreadText();
     updateControls();
 }
 
-DialogueEditWidget::~DialogueEditWidget() = default;
+// The focus leaves the page's widgets while they go, when this page is no longer one to apply a form.
+DialogueEditWidget::~DialogueEditWidget()
+{
+    disconnect(focusWatch);
+}
 
 QStringList DialogueEditWidget::suffixes() const
 {
@@ -376,6 +387,14 @@ void describe(QTreeWidgetItem* item, const DialogueFileNew::Line& line, int kind
 
 } // namespace
 
+// A response's item also knows the line it leads to, which a double click on its target column opens.
+void DialogueEditWidget::describeResponse(QTreeWidgetItem* item, const DialogueFileNew::PCLine& line, int targetColumn) const
+{
+    describe(item, line, static_cast<int>(LineKind::Pc), severityOf(line, true));
+    item->setData(0, TARGET_ROLE, line.responseLine());
+    item->setToolTip(targetColumn, tr("Double-click to open line %1").arg(line.responseLine()));
+}
+
 QTreeWidgetItem* DialogueEditWidget::npcItem(const DialogueFileNew::NPCLine& line) const
 {
     auto* item = new QTreeWidgetItem({QStringLiteral("%1: %2").arg(line.index()).arg(firstLine(line.text())), QString()});
@@ -388,11 +407,10 @@ QTreeWidgetItem* DialogueEditWidget::npcItem(const DialogueFileNew::NPCLine& lin
 
 QTreeWidgetItem* DialogueEditWidget::pcChildItem(const DialogueFileNew::PCLine& line) const
 {
-    auto* item = new QTreeWidgetItem({tr("PC response line:") + QStringLiteral(" %1: %2").arg(line.index()).arg(firstLine(line.text())),
+    // Short, so that the number and the first words still show in a narrow tree.
+    auto* item = new QTreeWidgetItem({tr("PC %1: %2").arg(line.index()).arg(firstLine(line.text())),
                                       QStringLiteral("→ %1").arg(line.responseLine())});
-    describe(item, line, static_cast<int>(LineKind::Pc), severityOf(line, true));
-    item->setData(0, TARGET_ROLE, line.responseLine());
-    item->setToolTip(NPC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
+    describeResponse(item, line, NPC_TARGET_COLUMN);
     return item;
 }
 
@@ -400,9 +418,7 @@ QTreeWidgetItem* DialogueEditWidget::pcItem(const DialogueFileNew::PCLine& line)
 {
     auto* item = new QTreeWidgetItem(
         {QString::number(line.responseLine()), QString::number(line.index()), firstLine(line.text())});
-    describe(item, line, static_cast<int>(LineKind::Pc), severityOf(line, true));
-    item->setData(0, TARGET_ROLE, line.responseLine());
-    item->setToolTip(PC_TARGET_COLUMN, tr("Double-click to open line %1").arg(line.responseLine()));
+    describeResponse(item, line, PC_TARGET_COLUMN);
     return item;
 }
 
@@ -476,12 +492,9 @@ void DialogueEditWidget::showForm(QWidget* form)
     ui->stackForms->setCurrentWidget(form);
 }
 
-void DialogueEditWidget::reopen(const OpenLine& line)
+bool DialogueEditWidget::reopen(const OpenLine& line)
 {
-    if (line.kind == LineKind::Pc)
-        openPcLine(line.index);
-    else if (line.kind == LineKind::Npc)
-        openNpcLine(line.index);
+    return (line.kind == LineKind::Pc && openPcLine(line.index)) || (line.kind == LineKind::Npc && openNpcLine(line.index));
 }
 
 void DialogueEditWidget::closeLine()
@@ -568,7 +581,11 @@ QString DialogueEditWidget::describeOpenLine() const
     if (open.kind != LineKind::Pc || !line || !dlgfile)
         return QString();
     QString text = tr("<b>PC line %1</b>").arg(open.index);
-    if (const DialogueFileNew::NPCLinePointer answer = dlgfile->getNPCLine(line->responseLine()))
+    if (line->responseLine() == 0)
+        text += tr(" — ends the conversation");
+    else if (line->responseLine() < 0)
+        text += tr(" — ends the conversation with game code %1").arg(line->responseLine());
+    else if (const DialogueFileNew::NPCLinePointer answer = dlgfile->getNPCLine(line->responseLine()))
         text += tr(" — answered by NPC line %1: %2").arg(lineLink(answer->index())).arg(firstLine(answer->text()).toHtmlEscaped());
     else
         text += tr(" — response line %1 is no NPC line of this file").arg(line->responseLine());
@@ -658,6 +675,14 @@ void DialogueEditWidget::connectLineEditing()
         });
         auto* shortcut = new QShortcut(QKeySequence::Delete, tree, nullptr, nullptr, Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, &DialogueEditWidget::deleteSelectedLines);
+        // Enter opens the current line, as a double click on it does, for those who move by keyboard.
+        for (const int key : {int(Qt::Key_Return), int(Qt::Key_Enter)}) {
+            auto* open = new QShortcut(QKeySequence(key), tree, nullptr, nullptr, Qt::WidgetShortcut);
+            connect(open, &QShortcut::activated, this, [this, tree] {
+                if (const QTreeWidgetItem* item = tree->currentItem())
+                    reopen({static_cast<LineKind>(item->data(0, KIND_ROLE).toInt()), item->data(0, INDEX_ROLE).toInt()});
+            });
+        }
     }
 }
 
@@ -712,6 +737,9 @@ void DialogueEditWidget::addLine(LineKind kind)
         QString refused = shown->refusedNumber(dialog.text(), number);
         if (refused.isEmpty() && shown->addLine(modelKind(kind), number, refused)) {
             reopen({kind, number});
+            // Typing goes into the new line, not into the button that made it (a space would press it again).
+            if (DlgLineEditWidget* form = openForm())
+                form->focusText();
             return;
         }
         Prompt::message(this, QMessageBox::Warning, title, refused);
@@ -733,10 +761,18 @@ QList<DialogueEditWidget::OpenLine> DialogueEditWidget::selectedLines() const
 void DialogueEditWidget::deleteSelectedLines()
 {
     DialogueDocument* shown = dialogueDocument();
-    const QList<OpenLine> lines = selectedLines();
+    QList<OpenLine> lines = selectedLines();
     if (shown == nullptr || lines.isEmpty())
         return;
     applyPendingForm();
+    // An NPC line's responses go with it; left behind they would be offered by the NPC line before it.
+    for (qsizetype i = 0, selectedCount = lines.size(); i < selectedCount; ++i)
+        if (lines.at(i).kind == LineKind::Npc)
+            for (int response : shown->responsesOf(lines.at(i).index))
+                if (std::none_of(lines.cbegin(), lines.cend(), [response](const OpenLine& line) {
+                        return line.kind == LineKind::Pc && line.index == response;
+                    }))
+                    lines.append({LineKind::Pc, response});
     QList<DialogueDocument::LineRef> refs;
     QStringList deleted;
     for (const OpenLine& line : lines) {
@@ -750,7 +786,9 @@ void DialogueEditWidget::deleteSelectedLines()
             numbers << QString::number(number);
         const QString list = numbers.join(QStringLiteral(", "));
         QString text;
-        if (lines.size() > 1)
+        if (lines.size() > 1 && naming.size() == 1)
+            text = tr("Line %1 leads to one of lines %2. Delete them anyway?").arg(list, deleted.join(QStringLiteral(", ")));
+        else if (lines.size() > 1)
             text = tr("Lines %1 lead to lines %2. Delete them anyway?").arg(list, deleted.join(QStringLiteral(", ")));
         else if (naming.size() == 1)
             text = tr("Line %1 leads to line %2. Delete it anyway?").arg(list, deleted.first());
@@ -773,15 +811,44 @@ void DialogueEditWidget::renumberOpenLine(int number)
     if (shown == nullptr || was.kind == LineKind::None)
         return;
     applyPendingForm();
+    if (!confirmMovedResponses(was, number))
+        return;
     QString error;
     if (!shown->renumberLine(modelKind(was.kind), was.index, number, error)) {
-        Prompt::message(this, QMessageBox::Warning, tr("Change line number"), error);
+        // The field shows the line's number again before the message takes the focus from it: leaving
+        // the field finishes its editing once more, and must not find the refused number there.
         reopen(was);
+        Prompt::message(this, QMessageBox::Warning, tr("Change line number"), error);
         return;
     }
     history.renumber(static_cast<int>(was.kind), was.index, number);
     renumbered = {was, {was.kind, number}};
     reopen({was.kind, number});
+}
+
+// Moving a line past others changes which NPC line offers which responses: the conversation would read
+// differently, so the user sees which responses and decides. The field shows the line's number again
+// first, for the question takes the focus from it.
+bool DialogueEditWidget::confirmMovedResponses(const OpenLine& line, int number)
+{
+    DialogueDocument* shown = dialogueDocument();
+    int free = number;
+    if (!shown->refusedNumber(QString::number(number), free).isEmpty())
+        return true; // refused anyway, with its own message
+    const QList<int> moved = shown->responsesMovedBy(modelKind(line.kind), line.index, number);
+    if (moved.isEmpty())
+        return true;
+    QStringList numbers;
+    for (int response : moved)
+        numbers << QString::number(response);
+    reopen(line);
+    const QString text = moved.size() == 1
+        ? tr("As line %1, line %2 would change which NPC line offers response %3. Renumber it anyway?")
+              .arg(number).arg(line.index).arg(numbers.first())
+        : tr("As line %1, line %2 would change which NPC line offers responses %3. Renumber it anyway?")
+              .arg(number).arg(line.index).arg(numbers.join(QStringLiteral(", ")));
+    return Prompt::question(this, tr("Change line number"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+           == QMessageBox::Yes;
 }
 
 void DialogueEditWidget::openTarget(int line)
@@ -806,11 +873,9 @@ void DialogueEditWidget::on_buttonForward_clicked()
 // Lines deleted since they were opened are passed over.
 void DialogueEditWidget::moveInHistory(const std::function<std::optional<LineHistory::Entry>()>& step)
 {
-    while (const std::optional<LineHistory::Entry> entry = step()) {
-        const OpenLine line{static_cast<LineKind>(entry->kind), entry->number};
-        if ((line.kind == LineKind::Pc && openPcLine(line.index)) || (line.kind == LineKind::Npc && openNpcLine(line.index)))
+    while (const std::optional<LineHistory::Entry> entry = step())
+        if (reopen({static_cast<LineKind>(entry->kind), entry->number}))
             break;
-    }
     updateHistoryButtons();
 }
 

@@ -97,6 +97,7 @@ private:
     void addLine(LineKind kind);
     void deleteSelectedLines();
     void renumberOpenLine(int number);
+    bool confirmMovedResponses(const OpenLine& line, int number);
     // Opens the line a response leads to; codes of 0 and below end the conversation and open nothing.
     void openTarget(int line);
     void moveInHistory(const std::function<std::optional<LineHistory::Entry>()>& step);
@@ -107,7 +108,8 @@ private:
     QList<QWidget*> fileControls() const override;
     void showForm(QWidget* form);
     bool openLine(const OpenLine& line, QWidget* form, const std::function<void()>& fill);
-    void reopen(const OpenLine& line);
+    // Opens the line again (after a rebuild, or from the history); false when it is gone.
+    bool reopen(const OpenLine& line);
     void applyPendingForm();
     DlgLineEditWidget* openForm() const;
     const arcanum::DialogueFileNew::Line* openLineData() const;
@@ -119,6 +121,7 @@ private:
     QTreeWidgetItem* npcItem(const arcanum::DialogueFileNew::NPCLine& line) const;
     QTreeWidgetItem* pcChildItem(const arcanum::DialogueFileNew::PCLine& line) const;
     QTreeWidgetItem* pcItem(const arcanum::DialogueFileNew::PCLine& line) const;
+    void describeResponse(QTreeWidgetItem* item, const arcanum::DialogueFileNew::PCLine& line, int targetColumn) const;
 
     std::unique_ptr<Ui_DialogueEditWidget> ui;
     void refreshGraph();
@@ -141,4 +144,5 @@ private:
     DialogueProblemsPanel* problems = nullptr;
     std::unique_ptr<arcanum::DialogueCheck> lineCheck;
     FileEncoding* encoding = nullptr;
+    QMetaObject::Connection focusWatch;
 };

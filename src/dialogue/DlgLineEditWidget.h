@@ -23,6 +23,8 @@ public:
     virtual void applyChangesToData() = 0;
     // The form holds changes not yet written into its line.
     bool hasPendingChanges() const { return pending; }
+    // Puts the keyboard in the line's text, where writing a new line starts.
+    virtual void focusText() = 0;
 
 signals:
     void wasModifiedSignal();

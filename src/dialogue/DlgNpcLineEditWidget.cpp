@@ -133,6 +133,11 @@ void DlgNpcLineEditWidget::clear()
     setEnabled(false);
 }
 
+void DlgNpcLineEditWidget::focusText()
+{
+    ui->maleText->setFocus(Qt::OtherFocusReason);
+}
+
 // The response line counts only while its spin box is on offer: enabled and not hidden.
 bool DlgNpcLineEditWidget::responseLineApplies() const
 {

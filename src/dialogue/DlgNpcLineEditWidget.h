@@ -26,6 +26,7 @@ public:
     void applyChangesToData() override;
     // Shows no line.
     void clear() override;
+    void focusText() override;
     Q_INVOKABLE NPCLinePointer getOriginalLine() const { return line; }
 
     QVector<arcanum::dlg::TestOrResultData> getResults() const { return results.values(); }

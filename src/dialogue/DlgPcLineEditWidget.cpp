@@ -89,6 +89,11 @@ void DlgPcLineEditWidget::clear()
     setEnabled(false);
 }
 
+void DlgPcLineEditWidget::focusText()
+{
+    ui->text->setFocus(Qt::OtherFocusReason);
+}
+
 void DlgPcLineEditWidget::applyChangesToData()
 {
     if (!line) {

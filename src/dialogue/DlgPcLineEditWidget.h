@@ -26,6 +26,7 @@ public:
     void applyChangesToData() override;
     // Shows no line.
     void clear() override;
+    void focusText() override;
     PCLinePointer getOriginalLine() const { return line; }
 
     QVector<arcanum::dlg::TestOrResultData> getTests() const { return tests.values(); }

@@ -50,6 +50,9 @@ public:
     // "Save changes to NAME?" for the shown document, as the abandon setting says: true when the work
     // was saved, discarded or there was none; false when the user cancelled or the save failed.
     bool settle();
+    // Puts what a form still holds into the document as a step of its own. Undo and redo call this
+    // first: they would otherwise drop those edits when the page refreshes from the document.
+    void applyPendingEdits() { commitPending(); }
     // The window puts the page in a frame that names the file and offers Save and Save As; the page's
     // own controls for the same are then hidden, so that each action has one place.
     void setFramed();

@@ -1,7 +1,7 @@
 #include "FindInGameDialog.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
+#include <QHideEvent>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -41,6 +41,7 @@ FindInGameDialog::FindInGameDialog(QWidget* parent)
     buildLayout();
     connectSignals();
     modeChosen();
+    updateControls();
     resize(820, 520);
 }
 
@@ -181,10 +182,11 @@ void FindInGameDialog::cancel()
     *stop = true;
 }
 
-void FindInGameDialog::closeEvent(QCloseEvent* event)
+// Closed, or put away with Escape: a search nobody looks at stops.
+void FindInGameDialog::hideEvent(QHideEvent* event)
 {
     cancel();
-    QDialog::closeEvent(event);
+    QDialog::hideEvent(event);
 }
 
 void FindInGameDialog::showResult()

@@ -47,7 +47,7 @@ signals:
     void searchFinished();
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void buildLayout();
