@@ -293,6 +293,7 @@ private slots:
         QTest::newRow("letters first") << "x5" << 0 << false << false;
         QTest::newRow("too large saturates") << "99999999999" << 2147483647 << true << false;
         QTest::newRow("too small saturates") << "-99999999999" << int(-2147483647 - 1) << true << false;
+        QTest::newRow("one past the largest int") << "2147483648" << 2147483647 << true << false;
         QTest::newRow("smallest int") << "-2147483648" << int(-2147483647 - 1) << true << true;
     }
 

@@ -196,13 +196,15 @@ bool DialogueFileNew::PCLine::namesLine(int number) const
     return number > 0 && (mResponseLine == number || mTests.namesLine(number) || mResults.namesLine(number));
 }
 
-// Bitwise or: every place is renamed, not only the first.
+// Every place is renamed, not only the first that names the line.
 bool DialogueFileNew::PCLine::renameLine(int from, int to)
 {
     if (from <= 0)
         return false;
-    return renameResponse(mResponseLine, from, to) | renameInField(mTests, from, to, dlg::test::ALL_TESTS)
-           | renameInField(mResults, from, to, dlg::result::ALL_PC_RESULTS);
+    const bool response = renameResponse(mResponseLine, from, to);
+    const bool tests = renameInField(mTests, from, to, dlg::test::ALL_TESTS);
+    const bool results = renameInField(mResults, from, to, dlg::result::ALL_PC_RESULTS);
+    return response || tests || results;
 }
 
 // A new line says its text and waits for the player's answer: no response line of its own.
@@ -252,7 +254,9 @@ bool DialogueFileNew::NPCLine::renameLine(int from, int to)
 {
     if (from <= 0)
         return false;
-    return renameResponse(mResponseLine, from, to) | renameInField(mResults, from, to, dlg::result::ALL_NPC_RESULTS);
+    const bool response = renameResponse(mResponseLine, from, to);
+    const bool results = renameInField(mResults, from, to, dlg::result::ALL_NPC_RESULTS);
+    return response || results;
 }
 
 } // namespace arcanum
