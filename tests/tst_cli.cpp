@@ -835,7 +835,7 @@ private slots:
         const QStringList lines = run.lines();
         QCOMPARE(lines.size(), 3 + 8 * 4);
         QVERIFY(lines.at(0).endsWith(QStringLiteral(": 8 directions of 4 frames, 2 palettes")));
-        QCOMPARE(lines.at(1), QStringLiteral("frame rate: 0 frames per second"));
+        QCOMPARE(lines.at(1), QStringLiteral("frame rate: 8 frames per second"));
         QCOMPARE(lines.at(2), QStringLiteral("action frame: 2"));
         QVERIFY2(QRegularExpression("^direction 7 frame 3: 48x48, hotspot 24,40, offset 0,0, run-length \\d+ bytes$")
                      .match(lines.last()).hasMatch(),

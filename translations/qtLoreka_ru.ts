@@ -123,6 +123,10 @@
         <source>Frame %1 of %2</source>
         <translation>Кадр %1 из %2</translation>
     </message>
+    <message>
+        <source>not set (%1 fps)</source>
+        <translation>не задана (%1 к/с)</translation>
+    </message>
 </context>
 <context>
     <name>ArtDocument</name>

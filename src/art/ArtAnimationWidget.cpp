@@ -53,6 +53,8 @@ void ArtAnimationWidget::buildControls()
                               .arg(ArtPreview::DEFAULT_FRAME_RATE));
     spinFrameRate->setRange(0, 1000);
     spinFrameRate->setSuffix(tr(" fps"));
+    // 0 is what many files hold; saying "0 fps" beside a playing preview reads as a fault.
+    spinFrameRate->setSpecialValueText(tr("not set (%1 fps)").arg(ArtPreview::DEFAULT_FRAME_RATE));
     spinActionFrame = named(new QSpinBox(this), "spinActionFrame",
                             tr("The frame on which an attack or a spell takes effect (header word at byte 28)"));
     checkAllImages = named(new QCheckBox(tr("All directions"), this), "checkAllImages",

@@ -212,6 +212,7 @@ bool writeBeetle(const QDir& game)
     makePalette(FIRE_BEETLE, palette);
     art.setPalette(1, palette);
     art.setAnimated(true);
+    art.setFrameRate(8);
     for (int d = 0; d < DIRECTIONS; ++d) {
         for (int s = 0; s < STEPS; ++s) {
             const std::vector<quint8> pixels = drawBeetle(d, s);
