@@ -44,7 +44,7 @@ _loreka()
 
     case $command in
         "") COMPREPLY=($(compgen -W 'check dump roundtrip export art dat find script' -- "$cur")) ;;
-        check) _filedir -d ;;
+        check) _filedir '@(mes|dlg|scr|art|aap|pro)' ;;
         find) [[ -n $sub ]] && _filedir -d ;;
         dump|roundtrip) _filedir '@(mes|dlg|scr|art|aap|pro|dat)' ;;
         export) _filedir ;;

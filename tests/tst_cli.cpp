@@ -194,6 +194,10 @@ private slots:
             << QStringList{"script", "decompile", "missing.scr"} << 2 << QStringLiteral("missing.scr: error: cannot be read");
         QTest::newRow("script compile without output name")
             << QStringList{"script", "compile", "guard.txt"} << 2 << QStringLiteral("name the compiled file with -o");
+        QTest::newRow("check of a missing file")
+            << QStringList{"check", "missing.mes"} << 2 << QStringLiteral("missing.mes: error: no such file");
+        QTest::newRow("check of a file of no known kind")
+            << QStringList{"check", QFINDTESTDATA("tst_cli.cpp")} << 2 << QStringLiteral("not a kind of file loreka checks");
         QTest::newRow("export of a message file")
             << QStringList{"export", "x.mes", "out"} << 2 << QStringLiteral("x.mes: error: not an art file");
     }
@@ -296,6 +300,18 @@ private slots:
     }
 
     void checkFindsStructuralDefect() { checkFindsPlantedDefect(); }
+
+    // Files named on their own are judged as inside the game, each with its own lines.
+    void checkNamedFiles()
+    {
+        const QString copy = freshCopy(QStringLiteral("named_files"));
+        plants().value(QStringLiteral("prototype cut to 100 bytes"))(copy);
+        const Run run = loreka({"check", "data/proto/weapon_sword.pro", "data/mes/sample_items.mes"}, copy);
+        QCOMPARE(run.code, 1);
+        QCOMPARE(run.lines(), (QStringList{"data/proto/weapon_sword.pro:offset 0x64: error: the file ends at byte 100, "
+                                           "inside the data of its item type 5",
+                                           "2 files checked, 1 problem"}));
+    }
 
     // Without --encoding a message file that is no valid UTF-8 is read in the game's code page; an
     // encoding asked for is the one its bytes must be valid in.

@@ -13,19 +13,22 @@ namespace arcanum {
 class Script;
 }
 
-// `loreka check [DIR]`: reads every data file below DIR/data with the project's models and reports
-// what they record, dialogues as the game reads them (arcanum::DialogueCheck), and the structural
-// defects of every file with their location.
+// `loreka check [DIR | FILE...]`: reads every data file below DIR/data (or the files named) with the
+// project's models and reports what they record, dialogues as the game reads them
+// (arcanum::DialogueCheck), and the structural defects of every file with their location.
 class CheckCommand
 {
 public:
     // listNotes: print the notes too (what the game reads although our stricter reading objects).
     CheckCommand(const EncodingChoice& encoding, bool listNotes);
 
-    // An empty dir means the base directory of "qtLoreka.ini", or the working directory.
-    int run(const QString& dir);
+    // No operand means the base directory of "qtLoreka.ini", or the working directory; one folder is a
+    // game's base directory; anything else is a list of files.
+    int run(const QStringList& operands);
 
 private:
+    int checkGame(const QString& dir);
+    int checkFiles(const QStringList& paths);
     static QStringList ignoreList(const QString& base);
     void checkFile(const QString& path);
     bool isOtherKind(const QString& path, const QByteArray& bytes, arcanum::FileFormat::Kind kind);

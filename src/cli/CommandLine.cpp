@@ -51,6 +51,7 @@ CommandLine::CommandLine()
         "Checks, dumps, round-trips and exports Arcanum game data.\n\n"
         "Commands:\n"
         "  check [DIR] [--notes]         check every data file below DIR/data\n"
+        "  check FILE... [--notes]       check the files named\n"
         "  dump FILE                     print a file as readable text (or JSON)\n"
         "  roundtrip FILE...             load and save each file, compare the bytes\n"
         "  export FILE.art OUTDIR        write the frames of an art file as images\n"
@@ -103,8 +104,8 @@ int CommandLine::dispatch(const QString& command, const QStringList& operands)
     const EncodingChoice encoding(parser.value(encodingOption));
     if (!encoding.isValid())
         return usageError(QStringLiteral("unknown encoding \"%1\"").arg(parser.value(encodingOption)));
-    if (command == QLatin1String("check") && operands.size() <= 1)
-        return CheckCommand(encoding, parser.isSet(notesOption)).run(operands.value(0));
+    if (command == QLatin1String("check"))
+        return CheckCommand(encoding, parser.isSet(notesOption)).run(operands);
     if (command == QLatin1String("dump") && operands.size() == 1)
         return DumpCommand(encoding, parser.isSet(jsonOption)).run(operands.first());
     if (command == QLatin1String("roundtrip") && !operands.isEmpty())
