@@ -25,6 +25,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QDirIterator>
 #include <QLineEdit>
@@ -416,6 +417,28 @@ private slots:
         QCOMPARE(list->findItems(QStringLiteral("00050night_guard.scr"), Qt::MatchExactly).size(), 1);
         for (const char* name : {"buttonScriptNew", "buttonScriptDelete"})
             QVERIFY(!window.findChild<QPushButton*>(QString::fromLatin1(name))->isEnabled());
+    }
+
+    // However a file comes into a page (Find in game, the Game tab, Save As), its list marks it and no other.
+    void listsMarkTheFileThePageShows()
+    {
+        ScratchGame game;
+        MainWindow window;
+        auto* tree = window.findChild<QTreeWidget*>(QStringLiteral("treeMes"));
+        tree->setCurrentItem(mesTreeItem(window, QStringLiteral("archived_notes.mes")));
+        QVERIFY(window.mesPage()->openFile(game.path(ITEMS)));
+        QCOMPARE(tree->currentItem(), mesTreeItem(window, QStringLiteral("sample_items.mes")));
+        QCOMPARE(window.mesPage()->document()->path(), game.path(ITEMS));
+        window.openFiles({game.path(QStringLiteral("/data/proto/wall_stone.pro"))});
+        auto* protos = window.findChild<QListWidget*>(QStringLiteral("protoList"));
+        QVERIFY(protos->currentItem());
+        QCOMPARE(protos->currentItem()->text(), QStringLiteral("wall_stone.pro"));
+        // A file outside the game leaves its list without a mark.
+        QTemporaryDir outside;
+        const QString copy = outside.filePath(QStringLiteral("copy.mes"));
+        QVERIFY(QFile::copy(game.path(ITEMS), copy));
+        QVERIFY(window.mesPage()->openFile(copy));
+        QCOMPARE(tree->currentItem(), nullptr);
     }
 
     void dropOpensInItsPage()

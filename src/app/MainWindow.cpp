@@ -488,18 +488,41 @@ bool MainWindow::openInPage(Page* page, const QString& path)
     if (page->document() != nullptr && QFileInfo(page->document()->path()) == QFileInfo(path))
         return true;
     const bool opened = page->openFile(path);
-    if (!opened) {
-        // The list goes back to the file the page still shows.
-        reselecting = true;
-        const QString shown = page->document() ? QFileInfo(page->document()->path()).fileName() : QString();
-        for (QListWidget* list : {ui->listScripts, ui->protoList}) {
-            const auto found = list->findItems(shown, Qt::MatchExactly);
-            if (page == (list == ui->listScripts ? static_cast<Page*>(scriptWidget) : protoWidget))
-                list->setCurrentItem(found.isEmpty() ? nullptr : found.first());
-        }
-        reselecting = false;
-    }
+    if (!opened)
+        selectListed(page); // the list goes back to the file the page still shows
     return opened;
+}
+
+// The page's list marks the file the page shows, however it was opened (Find in game, a refused open,
+// Save As), and no other: a list pointing at one file while the page edits another invites a wrong edit.
+void MainWindow::selectListed(Page* page)
+{
+    const QString shown = page->document() != nullptr ? QDir::cleanPath(page->document()->path()) : QString();
+    const auto isShown = [this, &shown](const QString& subDir, const QString& name) {
+        return !shown.isEmpty() && QDir::cleanPath(fullPath(subDir, name)) == shown;
+    };
+    reselecting = true;
+    if (page == scriptWidget || page == protoWidget) {
+        QListWidget* list = page == scriptWidget ? ui->listScripts : ui->protoList;
+        const QString subDir = page == scriptWidget ? arcanum::SCRIPTS_DIR : arcanum::PROTO_DIR;
+        QListWidgetItem* found = nullptr;
+        for (int i = 0; i < list->count() && found == nullptr; ++i)
+            if (isShown(subDir, list->item(i)->text()))
+                found = list->item(i);
+        list->setCurrentItem(found);
+    } else if (page == mesWidget) {
+        QTreeWidgetItem* found = nullptr;
+        for (int top = 0; top < ui->treeMes->topLevelItemCount() && found == nullptr; ++top) {
+            QTreeWidgetItem* group = ui->treeMes->topLevelItem(top);
+            for (int i = 0; i < group->childCount() && found == nullptr; ++i)
+                if (isShown(group->data(0, Qt::UserRole).toString(), group->child(i)->text(0)))
+                    found = group->child(i);
+        }
+        ui->treeMes->setCurrentItem(found);
+    } else if (page == artWidget && artModel != nullptr) {
+        ui->artTree->setCurrentIndex(artModel->indexOfLoose(shown));
+    }
+    reselecting = false;
 }
 
 // ---- find in game ----
@@ -665,12 +688,10 @@ void MainWindow::documentReplaced(Page* page, Document* document)
     if (document != nullptr) {
         undo->addStack(document->undoStack());
         connect(document, &Document::modifiedChanged, this, &MainWindow::updateMarks);
-        connect(document, &Document::pathChanged, this, [this, page](const QString& path) {
+        connect(document, &Document::pathChanged, this, [this, page] {
             updateMarks();
             rewatch();
-            // After Save As the art tree shows the file the page now has.
-            if (page == artWidget && artModel != nullptr)
-                ui->artTree->setCurrentIndex(artModel->indexOfLoose(path));
+            selectListed(page);
         });
         connect(document, &Document::saved, this, [this](const QString& path) {
             watcher->savedByUs(path);
@@ -686,6 +707,7 @@ void MainWindow::documentReplaced(Page* page, Document* document)
         });
         connect(document, &Document::changed, banner, [banner, document] { banner->showDamageOf(document); });
     }
+    selectListed(page);
     rewatch();
     updateMarks();
 }

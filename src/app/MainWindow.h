@@ -100,6 +100,7 @@ private:
     // Whether the game view already has path as a loose file.
     bool listsShow(const QString& path) const;
     void openListed(Page* page, const QString& gamePath, const QString& loosePath);
+    void selectListed(Page* page);
     void applyFilter(QWidget* view, const QString& text);
     Page* currentPage() const;
     void showPage(Page* page);
