@@ -594,6 +594,22 @@ private slots:
         QVERIFY2(page.document()->damage().contains(reason), qPrintable(page.document()->damage()));
     }
 
+    // Damage speaks of the file: a line added to a whole script is no missing line, before or after a save.
+    void addedLinesAreNoDamage()
+    {
+        ScriptWidget page;
+        page.setConfirmOverwrite(false);
+        QVERIFY(openScript(page, writeGuard()));
+        QCOMPARE(page.document()->damage(), QString());
+        ScriptedAnswerer answers;
+        answers.dialogs.enqueue([](QDialog&) { return int(QDialog::Accepted); });
+        QTest::mouseClick(page.findChild<QPushButton*>(QStringLiteral("buttonNewDO")), Qt::LeftButton);
+        QCOMPARE(page.scriptDocument()->script().getHeader().lineCount, 4);
+        QCOMPARE(page.document()->damage(), QString());
+        QVERIFY(page.save());
+        QCOMPARE(page.document()->damage(), QString());
+    }
+
     void randomBytesAreNotAScript()
     {
         QByteArray noise = FormatChecks::readFile(writeGuard());

@@ -693,7 +693,8 @@ void MainWindow::documentReplaced(Page* page, Document* document)
             rewatch();
             selectListed(page);
         });
-        connect(document, &Document::saved, this, [this](const QString& path) {
+        connect(document, &Document::saved, this, [this, banner, document](const QString& path) {
+            banner->showDamageOf(document); // the file as saved is the file the banner speaks of
             watcher->savedByUs(path);
             recoveryStore->drop(path);
             if (artModel != nullptr)

@@ -14,6 +14,7 @@ std::unique_ptr<ScriptDocument> ScriptDocument::fromBytes(const QString& path, c
         error = tr("a script's file name starts with its five-digit number (00042name.scr)");
         return nullptr;
     }
+    document->countOnDisk = document->model.getHeader().lineCount;
     return document;
 }
 
@@ -27,6 +28,12 @@ ScriptDocument::ScriptDocument(const QString& path, qint64 fileSize)
             return;
         model.loadBytes(newPath, model.toBytes());
         emit changed();
+    });
+    // Damage is what the file holds: lines added or applied since are no missing lines, and a save
+    // writes a whole file.
+    connect(this, &Document::saved, this, [this](const QString& savedPath) {
+        sizeOnDisk = QFileInfo(savedPath).size();
+        countOnDisk = model.getHeader().lineCount;
     });
 }
 
@@ -109,7 +116,7 @@ void ScriptDocument::restoreModel(const QByteArray& bytes)
 
 QString ScriptDocument::sizeProblem() const
 {
-    const qint32 count = model.getHeader().lineCount;
+    const qint32 count = countOnDisk;
     if (sizeOnDisk < Script::HeaderSize)
         return tr("the file is %1 bytes long, shorter than the %2-byte header").arg(sizeOnDisk).arg(Script::HeaderSize);
     if (count < 0)

@@ -46,4 +46,5 @@ private:
 
     arcanum::Script model;
     qint64 sizeOnDisk;
+    qint32 countOnDisk = 0;
 };
