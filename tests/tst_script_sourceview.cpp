@@ -178,16 +178,37 @@ private slots:
         QCOMPARE(text(), answer == QMessageBox::Discard ? QString::fromLatin1(guardSource) : edited);
     }
 
-    // Saving with edits not applied asks first; Apply puts them in the file written.
+    // Saving with edits not applied asks first: Apply puts them in the file written, Discard saves the
+    // script as it stands, Cancel (or a source that does not compile) saves nothing and keeps the text.
+    void saveAsksAboutUnappliedEdits_data()
+    {
+        QTest::addColumn<QString>("edited");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("saved");
+        QTest::addColumn<bool>("applied");
+        const QString good = QStringLiteral("script 12 \"Guard\"\nDO kill (Player)\n");
+        QTest::newRow("apply") << good << int(QMessageBox::Apply) << true << true;
+        QTest::newRow("discard") << good << int(QMessageBox::Discard) << true << false;
+        QTest::newRow("cancel") << good << int(QMessageBox::Cancel) << false << false;
+        QTest::newRow("apply, does not compile")
+            << QStringLiteral("script 12 \"Guard\"\nDO kil (Player)\n") << int(QMessageBox::Apply) << false << false;
+    }
+
     void saveAsksAboutUnappliedEdits()
     {
-        const QString edited = QStringLiteral("script 12 \"Guard\"\nDO kill (Player)\n");
+        QFETCH(QString, edited);
+        QFETCH(int, answer);
+        QFETCH(bool, saved);
+        QFETCH(bool, applied);
+        const QByteArray before = FormatChecks::readFile(path());
         type(edited);
-        answers->buttons.enqueue(QMessageBox::Apply);
-        QVERIFY(page->save());
+        answers->buttons.enqueue(QMessageBox::StandardButton(answer));
+        QCOMPARE(page->save(), saved);
         QCOMPARE(answers->count(QStringLiteral("question")), 1);
-        QCOMPARE(FormatChecks::readFile(path()), compiledBytes(edited.toStdString()));
-        QVERIFY(!page->scriptDocument()->isModified());
+        QCOMPARE(FormatChecks::readFile(path()), applied ? compiledBytes(edited.toStdString()) : before);
+        QCOMPARE(view().isEdited(), !saved);
+        if (!saved)
+            QCOMPARE(text(), edited); // nothing typed is lost
     }
 
     void followsTheRowsUnlessEdited()

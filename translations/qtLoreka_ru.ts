@@ -3235,8 +3235,8 @@ Restore them (they open modified, not saved) or discard them?</source>
         <translation>Неприменённый исходный текст</translation>
     </message>
     <message>
-        <source>The source holds edits not applied to the script. Apply them before leaving it?</source>
-        <translation>В исходном тексте есть правки, не применённые к скрипту. Применить их перед уходом?</translation>
+        <source>The source holds edits not yet applied to the script. Apply them first?</source>
+        <translation>В исходном тексте есть правки, ещё не применённые к скрипту. Применить их сначала?</translation>
     </message>
     <message>
         <source>Line %1, column %2: %3</source>

@@ -181,9 +181,10 @@ void DialogueEditWidget::showDocument()
     updateControls();
 }
 
-void DialogueEditWidget::commitPending()
+bool DialogueEditWidget::commitPending()
 {
     applyPendingForm();
+    return true;
 }
 
 void DialogueEditWidget::on_buttonGraph_clicked()

@@ -76,7 +76,7 @@ public slots:
 protected:
     void changeEvent(QEvent* event) override;
     void showDocument() override;
-    void commitPending() override;
+    bool commitPending() override;
 
 private:
     enum class LineKind { None, Pc, Npc };

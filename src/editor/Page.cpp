@@ -42,7 +42,8 @@ bool Page::openFile(const QString& path)
 
 bool Page::settle()
 {
-    commitPending();
+    if (!commitPending())
+        return false;
     return !confirmAbandon || SaveGuard::settle(this, document(), fileFilter());
 }
 
@@ -59,7 +60,8 @@ bool Page::save()
 {
     if (document() == nullptr)
         return false;
-    commitPending();
+    if (!commitPending())
+        return false;
     const QString path = document()->path();
     if (!document()->origin().isEmpty()) {
         if (Prompt::question(this, tr("Save"),
@@ -90,7 +92,8 @@ bool Page::saveAs()
 {
     if (document() == nullptr)
         return false;
-    commitPending();
+    if (!commitPending())
+        return false;
     return SaveGuard::saveAs(this, document(), fileFilter(), dialogFolder());
 }
 

@@ -52,7 +52,7 @@ public:
     bool settle();
     // Puts what a form still holds into the document as a step of its own. Undo and redo call this
     // first: they would otherwise drop those edits when the page refreshes from the document.
-    void applyPendingEdits() { commitPending(); }
+    void applyPendingEdits() { (void)commitPending(); }
     // The window puts the page in a frame that names the file and offers Save and Save As; the page's
     // own controls for the same are then hidden, so that each action has one place.
     void setFramed();
@@ -66,8 +66,9 @@ protected:
     // Fill the controls from document() (null: clear them). Called after every replacement.
     virtual void showDocument() = 0;
     // A page whose form holds changes not yet in the document applies them here; called before the
-    // document is asked whether it is modified, saved or replaced.
-    virtual void commitPending() {}
+    // document is asked whether it is modified, saved or replaced. False: the user kept them out (Cancel,
+    // or they could not be applied), so the save or replacement waits.
+    virtual bool commitPending() { return true; }
     // Controls repeating what the frame shows: the file's name, its modified mark, Open, Save, Save As.
     virtual QList<QWidget*> fileControls() const { return {}; }
     bool isFramed() const { return framed; }

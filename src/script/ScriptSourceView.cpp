@@ -199,7 +199,7 @@ bool ScriptSourceView::settle()
         return true;
     const QMessageBox::StandardButton answer
         = Prompt::question(this, tr("Unapplied source"),
-                           tr("The source holds edits not applied to the script. Apply them before leaving it?"),
+                           tr("The source holds edits not yet applied to the script. Apply them first?"),
                            QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Apply);
     if (answer == QMessageBox::Discard) {
         revert();

@@ -67,10 +67,9 @@ void ScriptWidget::viewChanged(int index)
         views->setCurrentIndex(left); // the user stays with the source
 }
 
-void ScriptWidget::commitPending()
+bool ScriptWidget::commitPending()
 {
-    if (source->isEdited())
-        source->settle();
+    return !source->isEdited() || source->settle();
 }
 
 ScriptWidget::~ScriptWidget() = default;
@@ -331,7 +330,8 @@ bool ScriptWidget::saveAs()
     ScriptDocument* shown = scriptDocument();
     if (shown == nullptr)
         return false;
-    commitPending();
+    if (!commitPending())
+        return false;
     const QString folder = QFileInfo(shown->path()).absolutePath();
     QSet<int> used = ScriptDocument::numbersIn(folder);
     if (listedScripts)

@@ -50,7 +50,7 @@ protected:
     void showDocument() override;
     QList<QWidget*> fileControls() const override;
     // Unapplied source edits are applied or dropped (as the user says) before a save or a replacement.
-    void commitPending() override;
+    bool commitPending() override;
 
 private slots:
     void on_buttonNewIF_pressed();
