@@ -196,7 +196,8 @@ int ArtCommand::info(const QString& artPath)
 
 int ArtCommand::written(const QString& artPath, const Artfile& art)
 {
-    QTextStream(stdout) << artPath << " written: " << art.getImageCount() << " images of " << art.getFrameCount()
+    QTextStream(stdout) << artPath << " written: " << art.getImageCount()
+                        << (art.getImageCount() == 1 ? " image of " : " images of ") << art.getFrameCount()
                         << (art.getFrameCount() == 1 ? " frame" : " frames") << Qt::endl;
     return CommandLine::Clean;
 }
