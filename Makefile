@@ -15,14 +15,15 @@ RELEASE_DIR := build/release
 TEST_DIR := build/test
 SAMPLE_GAME := examples/sample-game
 
-.PHONY: run test deps release screenshots samples clean bench fuzz fuzz-deps fuzz-build fuzz-smoke install package
+.PHONY: run test deps release screenshots samples clean bench bench-deps fuzz fuzz-deps fuzz-build fuzz-smoke install package
 
 run: release
 	cd $(SAMPLE_GAME) && ../../$(RELEASE_DIR)/src/qtLoreka
 
-test: deps fuzz-deps
+# The benchmarks are built here too (not run), so a change that breaks them fails the tests.
+test: deps fuzz-deps bench-deps
 	cmake -S . -B $(TEST_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-	      -DLOREKA_SANITIZE=ON -DLOREKA_WERROR=ON
+	      -DLOREKA_SANITIZE=ON -DLOREKA_WERROR=ON -DLOREKA_BENCH=ON
 	cmake --build $(TEST_DIR) --target update_translations
 	cmake --build $(TEST_DIR) -j $(JOBS)
 	cd $(TEST_DIR) && QT_QPA_PLATFORM=offscreen \
@@ -84,8 +85,10 @@ package: deps
 BENCH_DIR := build/bench
 BENCH_REPETITIONS ?= 3
 
-bench: deps
+bench-deps:
 	@$(MAKE) --no-print-directory deps PACKAGES="libbenchmark-dev"
+
+bench: deps bench-deps
 	cmake -S . -B $(BENCH_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DLOREKA_BENCH=ON -DLOREKA_BUILD_TESTS=OFF
 	cmake --build $(BENCH_DIR) --target loreka-bench -j $(JOBS)
 	cd $(BENCH_DIR) && QT_QPA_PLATFORM=offscreen ./bench/loreka-bench \

@@ -277,6 +277,8 @@ void addArtPreview(Registrar& r, const QString& game)
                   [prepare] { return prepare(true); });
     r.addPrepared("art preview: the same, first loop (converting)", pixels, Goal::None, 0,
                   [prepare] { return prepare(false); });
+}
+
 // A rendered creature as an artist hands it over: a shaded body with a little grain on a clear ground.
 QImage renderedSprite(int side, int variant)
 {
@@ -482,6 +484,10 @@ void addConversationGraph(Registrar& r)
             bar->setValue(bar->value() + bar->pageStep() > bar->maximum() ? 0 : bar->value() + bar->pageStep());
             QPainter painter(frame.get());
             view->render(&painter);
+        };
+    });
+}
+
 // The Script tab's Source view filled with a 100 000-line script: decompiled, laid out and coloured.
 void addScriptSourceView(Registrar& r, const QString& game)
 {
@@ -707,8 +713,8 @@ std::vector<BenchCase> registerBenchCases(const QString& gameDir, const QString&
     addArtMaking(r, outDir);
     addProtos(r, gameDir, outDir);
     addMesWidget(r, gameDir);
-    addConversationGraph(r);
     addScriptSourceView(r, gameDir);
+    addConversationGraph(r);
     addArchives(r, outDir);
     addRewrites(r, gameDir);
     addFind(r, outDir);
