@@ -63,22 +63,28 @@ int CheckCommand::checkFiles(const QStringList& paths)
     for (int i = 0; i < paths.size(); ++i) {
         const QString& path = paths.at(i);
         report.progress(i + 1, int(paths.size()), path);
-        if (!QFileInfo(path).isFile()) {
-            report.fileChecked();
-            report.ioError(path, QStringLiteral("no such file"));
-        } else if (FormatRegistry::byPath(path) == nullptr) {
-            report.fileChecked();
-            report.ioError(path, QStringLiteral("not a kind of file loreka checks (.mes, .dlg, .scr, .art, .aap, .pro)"));
-        } else if (FormatRegistry::byPath(path)->kind == FileFormat::Kind::Archive) {
-            report.fileChecked();
-            report.ioError(path, QStringLiteral("an archive: check the game folder that holds it, or its entries with "
-                                                "loreka dat verify"));
-        } else {
+        const QString refused = refusalOf(path);
+        if (refused.isEmpty()) {
             checkFile(path);
+        } else {
+            report.fileChecked();
+            report.ioError(path, refused);
         }
     }
     report.summary();
     return report.exitCode();
+}
+
+QString CheckCommand::refusalOf(const QString& path)
+{
+    const FileFormat* format = FormatRegistry::byPath(path);
+    if (!QFileInfo(path).isFile())
+        return QStringLiteral("no such file");
+    if (format == nullptr)
+        return QStringLiteral("not a kind of file loreka checks (.mes, .dlg, .scr, .art, .aap, .pro)");
+    if (format->kind == FileFormat::Kind::Archive)
+        return QStringLiteral("an archive: check the game folder that holds it, or its entries with loreka dat verify");
+    return QString();
 }
 
 int CheckCommand::checkGame(const QString& dir)

@@ -29,6 +29,8 @@ public:
 private:
     int checkGame(const QString& dir);
     int checkFiles(const QStringList& paths);
+    // Why a file named on the command line is not checked; empty when it is.
+    static QString refusalOf(const QString& path);
     static QStringList ignoreList(const QString& base);
     void checkFile(const QString& path);
     bool isOtherKind(const QString& path, const QByteArray& bytes, arcanum::FileFormat::Kind kind);
