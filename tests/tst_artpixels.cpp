@@ -4,6 +4,8 @@
 #include "FormatChecks.h"
 #include "PaletteMatcher.h"
 
+#include <QHash>
+
 #include <QtTest>
 
 #include <limits>
@@ -143,6 +145,33 @@ private slots:
                 const quint8 wanted = y < 4 ? 0 : bruteForceNearest(palette, image.pixel(x, y));
                 if (got != wanted)
                     QFAIL(qPrintable(QStringLiteral("pixel %1,%2: index %3, nearest is %4").arg(x).arg(y).arg(got).arg(wanted)));
+            }
+        }
+    }
+
+    // A picture large enough to be matched by several threads gets the index each pixel gets on its own.
+    void threadsGiveTheIndicesOfOnePass()
+    {
+        const Palette palette = scatteredPalette(7);
+        const PaletteMatcher matcher(palette.colours);
+        const QImage colours = noiseImage(64, 64, 17); // 4 096 colours, so each is looked up once below
+        QImage image(320, 256, QImage::Format_ARGB32);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                image.setPixel(x, y, colours.pixel((x * 7 + y) % 64, (y * 3 + x / 5) % 64) | (x % 50 == 0 ? 0u : 0xFF000000u));
+        const PaletteMatcher::Result result = matcher.match(image, false);
+        QHash<QRgb, quint8> nearest;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb pixel = image.pixel(x, y);
+                if (qAlpha(pixel) < 128) {
+                    QCOMPARE(int(quint8(result.indices[y * image.width() + x])), 0);
+                    continue;
+                }
+                if (!nearest.contains(pixel))
+                    nearest.insert(pixel, matcher.nearest(pixel));
+                if (quint8(result.indices[y * image.width() + x]) != nearest.value(pixel))
+                    QFAIL(qPrintable(QStringLiteral("pixel %1,%2 differs").arg(x).arg(y)));
             }
         }
     }

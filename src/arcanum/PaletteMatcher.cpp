@@ -1,9 +1,11 @@
 #include "PaletteMatcher.h"
 
 #include <algorithm>
+#include <atomic>
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <thread>
 
 namespace arcanum {
 
@@ -121,6 +123,15 @@ PaletteMatcher::PaletteMatcher(const Artfile::Colour (&palette)[Artfile::PALETTE
     }
     std::stable_sort(entries.begin(), entries.end(),
                      [](const Entry& x, const Entry& y) { return x.lab.l < y.lab.l; });
+    // Padded by a block on either side, so a block read from any entry stays inside the arrays.
+    for (std::vector<float>* lane : {&lanes.l, &lanes.a, &lanes.b, &lanes.chroma})
+        lane->assign(entries.size() + 2 * std::size_t(BLOCK), 0.0f);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        lanes.l[i + BLOCK] = entries[i].lab.l;
+        lanes.a[i + BLOCK] = entries[i].lab.a;
+        lanes.b[i + BLOCK] = entries[i].lab.b;
+        lanes.chroma[i + BLOCK] = entries[i].chroma;
+    }
     for (int l = 0; l < LIGHTNESS_STEPS; ++l)
         firstAtLightness[std::size_t(l)] =
             int(std::lower_bound(entries.begin(), entries.end(), float(l),
@@ -149,50 +160,69 @@ float PaletteMatcher::distance94(const Lab& reference, const Lab& other)
     return dl * dl + dc * dc / (sc * sc) + dh2 / (sh * sh);
 }
 
+// Distances are worked out a block of entries at a time from plain arrays, which the compiler turns into
+// vector arithmetic; which of them count is then decided one entry at a time, in the order of the search.
 int PaletteMatcher::search(const Lab& lab, int hint) const
 {
     const int count = int(entries.size());
     const float c1 = std::sqrt(lab.a * lab.a + lab.b * lab.b);
     const float chromaWeight = 1.0f / ((1.0f + K1 * c1) * (1.0f + K1 * c1));
     const float hueWeight = 1.0f / ((1.0f + K2 * c1) * (1.0f + K2 * c1));
-    const auto distance = [&](const Entry& e) {
-        const float dl = lab.l - e.lab.l;
-        const float da = lab.a - e.lab.a;
-        const float db = lab.b - e.lab.b;
-        const float dc = c1 - e.chroma;
-        const float dh2 = std::max(0.0f, da * da + db * db - dc * dc);
-        return dl * dl + dc * dc * chromaWeight + dh2 * hueWeight;
+    std::array<float, BLOCK> block{};
+    const auto distances = [&](int first) {
+        const std::size_t from = std::size_t(first + BLOCK);
+        const float* l = lanes.l.data() + from;
+        const float* a = lanes.a.data() + from;
+        const float* b = lanes.b.data() + from;
+        const float* chroma = lanes.chroma.data() + from;
+        for (int k = 0; k < BLOCK; ++k) {
+            const float dl = lab.l - l[k];
+            const float da = lab.a - a[k];
+            const float db = lab.b - b[k];
+            const float dc = c1 - chroma[k];
+            const float dh2 = std::max(0.0f, da * da + db * db - dc * dc);
+            block[std::size_t(k)] = dl * dl + dc * dc * chromaWeight + dh2 * hueWeight;
+        }
     };
+    const auto lightness = [this](int i) { return lanes.l[std::size_t(i + BLOCK)]; };
     // The first entry at least as light as the pixel: from the table of whole lightness values, then a step
     // or two.
     int start = firstAtLightness[std::size_t(std::clamp(int(lab.l), 0, LIGHTNESS_STEPS - 1))];
-    while (start < count && entries[std::size_t(start)].lab.l < lab.l)
+    while (start < count && lightness(start) < lab.l)
         ++start;
     int best = hint >= 0 && hint < count ? hint : std::min(start, count - 1);
-    float bestDistance = distance(entries[std::size_t(best)]);
+    distances(best);
+    float bestDistance = block[0];
     int bestIndex = entries[std::size_t(best)].index;
     // Equal distances go to the lower palette index, whichever way the search came. Without branches: which
     // of two near entries is nearer is a coin toss the processor cannot predict.
-    const auto consider = [&](int i) {
-        const Entry& e = entries[std::size_t(i)];
-        const float d = distance(e);
-        const bool nearer = (d < bestDistance) | ((d == bestDistance) & (e.index < bestIndex));
+    const auto consider = [&](int i, float d) {
+        const int index = entries[std::size_t(i)].index;
+        const bool nearer = (d < bestDistance) | ((d == bestDistance) & (index < bestIndex));
         bestDistance = nearer ? d : bestDistance;
         best = nearer ? i : best;
-        bestIndex = nearer ? e.index : bestIndex;
+        bestIndex = nearer ? index : bestIndex;
     };
     // The lightness difference alone bounds the distance from below: past it nothing can be nearer.
-    for (int i = start; i < count; ++i) {
-        const float dl = entries[std::size_t(i)].lab.l - lab.l;
-        if (dl * dl > bestDistance)
-            break;
-        consider(i);
+    bool done = false;
+    for (int first = start; first < count && !done; first += BLOCK) {
+        distances(first);
+        for (int k = 0; k < BLOCK && first + k < count && !done; ++k) {
+            const float dl = lightness(first + k) - lab.l;
+            done = dl * dl > bestDistance;
+            if (!done)
+                consider(first + k, block[std::size_t(k)]);
+        }
     }
-    for (int i = start - 1; i >= 0; --i) {
-        const float dl = lab.l - entries[std::size_t(i)].lab.l;
-        if (dl * dl > bestDistance)
-            break;
-        consider(i);
+    done = false;
+    for (int last = start - 1; last >= 0 && !done; last -= BLOCK) {
+        distances(last - BLOCK + 1);
+        for (int k = 0; k < BLOCK && last - k >= 0 && !done; ++k) {
+            const float dl = lab.l - lightness(last - k);
+            done = dl * dl > bestDistance;
+            if (!done)
+                consider(last - k, block[std::size_t(BLOCK - 1 - k)]);
+        }
     }
     return best;
 }
@@ -227,16 +257,11 @@ PaletteMatcher::Result PaletteMatcher::match(const QImage& image, bool dither) c
     result.height = source.height();
     result.indices = QByteArray(qsizetype(result.width) * result.height, '\0');
     auto* out = reinterpret_cast<quint8*>(result.indices.data());
-    Cache cache;
-    int hint = -1;
     if (!dither) {
-        for (int y = 0; y < result.height; ++y) {
-            const auto* row = reinterpret_cast<const QRgb*>(source.constScanLine(y));
-            quint8* target = out + std::size_t(y) * std::size_t(result.width);
-            for (int x = 0; x < result.width; ++x)
-                target[x] = qAlpha(row[x]) < OPAQUE_FROM ? 0 : lookUp(rgbOnly(row[x]), cache, hint);
-        }
+        matchInParallel(source, out);
     } else {
+        Cache cache;
+        int hint = -1;
         // Serpentine Floyd–Steinberg in sRGB values; the error of a pixel goes to its opaque neighbours only.
         const int width = result.width;
         std::vector<std::array<float, 3>> current(std::size_t(width) + 2), next(std::size_t(width) + 2);
@@ -275,6 +300,45 @@ PaletteMatcher::Result PaletteMatcher::match(const QImage& image, bool dither) c
     }
     result.meanError = blockError(source, result.indices);
     return result;
+}
+
+// Without dithering every pixel is matched on its own and the nearest entry does not depend on where a
+// search starts, so threads can match bands of rows at once, each with a cache of its own, and give the
+// very indices one pass would. Bands are handed out as threads come free, since a picture's colours (and
+// so its searches) are rarely spread evenly; small pictures are not worth a thread.
+void PaletteMatcher::matchInParallel(const QImage& source, quint8* out) const
+{
+    constexpr qint64 PIXELS_PER_THREAD = 32 * 1024;
+    constexpr unsigned MOST_THREADS = 8;
+    constexpr int BAND_ROWS = 8;
+    const int height = source.height();
+    const qint64 pixels = qint64(source.width()) * height;
+    const unsigned cores = std::max(1u, std::min(std::thread::hardware_concurrency(), MOST_THREADS));
+    const int threads = int(std::clamp<qint64>(pixels / PIXELS_PER_THREAD, 1, cores));
+    std::atomic<int> nextBand{0};
+    const auto work = [this, &source, out, &nextBand, height] {
+        Cache cache;
+        int hint = -1;
+        for (int from = nextBand++ * BAND_ROWS; from < height; from = nextBand++ * BAND_ROWS)
+            matchRows(source, out, from, std::min(height, from + BAND_ROWS), cache, hint);
+    };
+    std::vector<std::thread> workers;
+    for (int thread = 1; thread < threads; ++thread)
+        workers.emplace_back(work);
+    work();
+    for (std::thread& worker : workers)
+        worker.join();
+}
+
+void PaletteMatcher::matchRows(const QImage& source, quint8* out, int from, int to, Cache& cache, int& hint) const
+{
+    const int width = source.width();
+    for (int y = from; y < to; ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(source.constScanLine(y));
+        quint8* target = out + std::size_t(y) * std::size_t(width);
+        for (int x = 0; x < width; ++x)
+            target[x] = qAlpha(row[x]) < OPAQUE_FROM ? 0 : lookUp(rgbOnly(row[x]), cache, hint);
+    }
 }
 
 double PaletteMatcher::blockError(const QImage& source, const QByteArray& indices) const

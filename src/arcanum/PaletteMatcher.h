@@ -62,10 +62,19 @@ private:
     // Position in entries (not palette index) of the entry nearest to lab; hint is a position to try first.
     int search(const Lab& lab, int hint) const;
     quint8 lookUp(QRgb colour, Cache& cache, int& hint) const;
+    void matchInParallel(const QImage& source, quint8* out) const;
+    // Rows from … to - 1.
+    void matchRows(const QImage& source, quint8* out, int from, int to, Cache& cache, int& hint) const;
     double blockError(const QImage& source, const QByteArray& indices) const;
 
     static constexpr int LIGHTNESS_STEPS = 101; // L* runs from 0 to 100
+    static constexpr int BLOCK = 8;             // entries whose distances are worked out together
     std::vector<Entry> entries; // the entries an opaque pixel may get, by lightness
+    // The same entries as one array per value, a block of padding on either side.
+    struct Lanes
+    {
+        std::vector<float> l, a, b, chroma;
+    } lanes;
     // For each whole lightness, the position of the first entry at least that light.
     std::array<int, LIGHTNESS_STEPS> firstAtLightness{};
     QVector<QRgb> colours;      // the palette as RGB, index 0 and its copies with alpha 0
