@@ -529,7 +529,11 @@ private slots:
         QCOMPARE(single.code, 0);
         QVERIFY(single.out.startsWith("script 1 \"Gate guard"));
         const QString out = scratch.filePath("00001again.scr");
-        QCOMPARE(loreka({"script", "compile", text + "/00001gate_guard.scr.txt", "-o", out}).code, 0);
+        const Run compiledOne = loreka({"script", "compile", text + "/00001gate_guard.scr.txt", "-o", out});
+        QCOMPARE(compiledOne.code, 0);
+        QCOMPARE(compiledOne.out.trimmed(), out + " written");
+        const QString source = scratch.filePath("00001again.scr.txt");
+        QCOMPARE(loreka({"script", "decompile", out, "-o", source}).out.trimmed(), source + " written");
         QCOMPARE(FormatChecks::readFile(out), FormatChecks::readFile(scripts + "/00001gate_guard.scr"));
     }
 

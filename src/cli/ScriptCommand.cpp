@@ -77,7 +77,16 @@ int ScriptCommand::run(const QStringList& operands)
 
 int ScriptCommand::decompile(const QString& path)
 {
-    return decompileFile(path, output) ? CommandLine::Clean : CommandLine::Failure;
+    if (!decompileFile(path, output))
+        return CommandLine::Failure;
+    if (!output.isEmpty()) // without -o the text itself is the output
+        written(output);
+    return CommandLine::Clean;
+}
+
+void ScriptCommand::written(const QString& path)
+{
+    std::fprintf(stdout, "%s written\n", qUtf8Printable(path));
 }
 
 bool ScriptCommand::decompileFile(const QString& path, const QString& target)
@@ -107,7 +116,10 @@ int ScriptCommand::compile(const QString& path)
         err(QStringLiteral("loreka: %1 does not end in .scr.txt: name the compiled file with -o").arg(path));
         return CommandLine::Failure;
     }
-    return compileFile(path, target) ? CommandLine::Clean : CommandLine::Problems;
+    if (!compileFile(path, target))
+        return CommandLine::Problems;
+    written(target);
+    return CommandLine::Clean;
 }
 
 bool ScriptCommand::compileFile(const QString& path, const QString& target)

@@ -22,6 +22,7 @@ public:
 private:
     int decompile(const QString& path);
     int compile(const QString& path);
+    static void written(const QString& path);
     int decompileAll(const QString& folder, const QString& outFolder);
     int compileAll(const QString& folder, const QString& outFolder);
     // Converts each file of folder whose name ends in suffix; the exit status.
