@@ -250,7 +250,7 @@ private slots:
     {
         DialogAbout about(nullptr);
         QCOMPARE(about.findChild<QLabel*>(QStringLiteral("label"))->text(), QStringLiteral("Version: "));
-        QCOMPARE(about.findChild<QLabel*>(QStringLiteral("labelVersion"))->text(), QStringLiteral("0.8"));
+        QCOMPARE(about.findChild<QLabel*>(QStringLiteral("labelVersion"))->text(), QStringLiteral("0.9"));
         QEvent change(QEvent::LanguageChange);
         QCoreApplication::sendEvent(&about, &change);
         QCOMPARE(about.findChild<QLabel*>(QStringLiteral("labelVersion"))->text(), QStringLiteral("<version>"));

@@ -21,6 +21,6 @@ inline const QString OUT_OF_BOUNDS = QStringLiteral("OUT OF BOUNDS");
 inline const QString NO_ERROR = QStringLiteral("No error");
 inline const QString EMPTY_STR;
 inline const QString WIN_ENDLINE = QStringLiteral("\r\n");
-inline const QString VERSION_STRING = QStringLiteral("0.8");
+inline const QString VERSION_STRING = QStringLiteral(LOREKA_VERSION);
 
 } // namespace arcanum
