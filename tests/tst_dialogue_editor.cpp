@@ -384,6 +384,11 @@ private slots:
         QVERIFY(page->openNpcLine(1));
         const int node = view->graph().find(ConversationGraph::Kind::Pc, 7);
         QCOMPARE(view->graph().nodes().at(node).label, QStringLiteral("Farewell. Friend."));
+        // The legend can be put away, so it covers no box.
+        auto* legend = view->findChild<QLabel*>(QStringLiteral("conversationLegend"));
+        QVERIFY(legend->isVisible());
+        QTest::mouseClick(view->window()->findChild<QPushButton*>(QStringLiteral("buttonLegend")), Qt::LeftButton);
+        QVERIFY(!legend->isVisible());
         view->window()->close();
     }
 

@@ -1228,6 +1228,14 @@
         <source>As line %1, line %2 would change which NPC line offers responses %3. Renumber it anyway?</source>
         <translation>Под номером %1 строка %2 изменит, какая реплика NPC предлагает ответы %3. Всё равно перенумеровать?</translation>
     </message>
+    <message>
+        <source>Legend</source>
+        <translation>Легенда</translation>
+    </message>
+    <message>
+        <source>Show or hide what the colours mean</source>
+        <translation>Показать или скрыть, что означают цвета</translation>
+    </message>
 </context>
 <context>
     <name>DialogueFile</name>

@@ -197,6 +197,11 @@ void ConversationView::fitAll()
     fitInView(scene()->sceneRect(), Qt::KeepAspectRatio);
 }
 
+void ConversationView::showLegend(bool shown)
+{
+    legend->setVisible(shown);
+}
+
 void ConversationView::wheelEvent(QWheelEvent* event)
 {
     if (!(event->modifiers() & Qt::ControlModifier)) {

@@ -26,6 +26,8 @@ public slots:
     void zoomIn();
     void zoomOut();
     void fitAll();
+    // The legend lies over a corner of the view; hidden, nothing under it is covered.
+    void showLegend(bool shown);
 
 signals:
     void lineActivated(bool pc, int line);

@@ -205,6 +205,13 @@ void DialogueEditWidget::on_buttonGraph_clicked()
             connect(button, &QPushButton::clicked, graph, slot);
             buttons->addWidget(button);
         }
+        auto* legend = new QPushButton(tr("Legend"), graphWindow);
+        legend->setObjectName(QStringLiteral("buttonLegend"));
+        legend->setToolTip(tr("Show or hide what the colours mean"));
+        legend->setCheckable(true);
+        legend->setChecked(true);
+        connect(legend, &QPushButton::toggled, graph, &ConversationView::showLegend);
+        buttons->addWidget(legend);
         buttons->addStretch(1);
         column->addLayout(buttons);
         column->addWidget(graph, 1);
