@@ -310,7 +310,7 @@ private slots:
         QCOMPARE(moved->top, 7 + 2);
         QCOMPARE(page->artDocument()->art().getImage(0, 0)->left, 4);
         QCOMPARE(page->document()->undoStack()->text(page->document()->undoStack()->index() - 1),
-                 QStringLiteral("Move frame 2 of image 1"));
+                 QStringLiteral("Move frame 1 of image 0")); // as the lists number them
         // The page shows the change: the frame's spin boxes and the preview's picture.
         QCOMPARE(preview->frame(), 1);
         QCOMPARE(child<QSpinBox>(*page, "spinLeft")->value(), 1);

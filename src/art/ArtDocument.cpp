@@ -53,7 +53,7 @@ QString ArtDocument::damage() const
             const arcanum::Artfile::Image* found = frames.getImage(image, frame);
             const quint64 pixels = found ? quint64(found->width) * found->height : 0;
             if (found && !found->isRaw() && pixels > arcanum::ArtRunLength::mostPixels(found->dataSize))
-                undrawn.append(tr("image %1 frame %2").arg(image + 1).arg(frame + 1));
+                undrawn.append(tr("image %1 frame %2").arg(image).arg(frame));
         }
     if (undrawn.isEmpty())
         return QString();
@@ -93,7 +93,7 @@ void ArtDocument::setHotspot(unsigned image, unsigned frame, qint32 left, qint32
     const arcanum::Artfile::Image* shown = model.isImage(image, frame) ? model.getImage(image, frame) : nullptr;
     if (shown == nullptr || (shown->left == left && shown->top == top))
         return;
-    edit(tr("Move frame %1 of image %2").arg(frame + 1).arg(image + 1), [=](arcanum::Artfile& art) {
+    edit(tr("Move frame %1 of image %2").arg(frame).arg(image), [=](arcanum::Artfile& art) {
         arcanum::Artfile::Image* moved = art.getImage(image, frame);
         moved->left = left;
         moved->top = top;
@@ -104,7 +104,7 @@ void ArtDocument::replaceFrame(unsigned image, unsigned frame, const QImage& ind
 {
     if (!model.isImage(image, frame) || indexed.isNull())
         return;
-    edit(tr("Replace frame %1 of image %2").arg(frame + 1).arg(image + 1),
+    edit(tr("Replace frame %1 of image %2").arg(frame).arg(image),
          [&](arcanum::Artfile& art) { art.convertFrom(indexed, image, frame, false); });
 }
 
@@ -113,7 +113,7 @@ void ArtDocument::insertFrame(unsigned image, unsigned after, const QImage& inde
     if (image >= model.getImageCount() || indexed.isNull())
         return;
     const unsigned position = std::min(after + 1, model.getFrameCount());
-    edit(tr("New frame %1 of image %2").arg(position + 1).arg(image + 1), [&](arcanum::Artfile& art) {
+    edit(tr("New frame %1 of image %2").arg(position).arg(image), [&](arcanum::Artfile& art) {
         art.newFrame(after);
         moveLastFrameTo(position);
         art.convertFrom(indexed, image, position, false);
@@ -125,7 +125,7 @@ void ArtDocument::replaceImageFrames(unsigned image, const QVector<QImage>& inde
 {
     if (image >= model.getImageCount() || indexed.isEmpty())
         return;
-    edit(tr("Replace the frames of image %1").arg(image + 1), [&](arcanum::Artfile& art) {
+    edit(tr("Replace the frames of image %1").arg(image), [&](arcanum::Artfile& art) {
         const unsigned before = art.getFrameCount();
         while (art.getFrameCount() < unsigned(indexed.size()))
             art.newFrame(art.getFrameCount());

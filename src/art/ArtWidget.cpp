@@ -50,11 +50,11 @@ ArtWidget::ArtWidget(QWidget* parent)
 
     connect(header, &ArtHeaderWidget::selectionChanged, this, &ArtWidget::selectionChanged);
     connect(header, &ArtHeaderWidget::paletteEdited, this,
-            [this](uint palette) { recordEdit(tr("Edit palette %1").arg(palette + 1)); });
+            [this](uint palette) { recordEdit(tr("Edit palette %1").arg(palette)); });
     connect(header, &ArtHeaderWidget::imagesAltered, this, [this] { recordEdit(tr("Add or delete image")); });
     connect(header, &ArtHeaderWidget::framesAltered, this, [this] { recordEdit(tr("Add or delete frame")); });
     connect(editor, &ArtEditorWidget::edited, this, [this](uint image, uint frame) {
-        recordEdit(tr("Edit frame %1 of image %2").arg(frame + 1).arg(image + 1), FRAME_MERGE_ID,
+        recordEdit(tr("Edit frame %1 of image %2").arg(frame).arg(image), FRAME_MERGE_ID,
                    int(image * 10000 + frame));
     });
     connect(animation, &ArtAnimationWidget::frameRateEdited, this, [this](uint framesPerSecond) {
