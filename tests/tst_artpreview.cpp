@@ -178,6 +178,9 @@ private slots:
             columns.insert(preview.anchorOf(image).x());
         }
         QCOMPARE(columns.size(), 8);
+        // Frames of 6 pixels still leave room for each image's name over them.
+        QVERIFY(preview.anchorOf(1).x() - preview.anchorOf(0).x()
+                > preview.fontMetrics().horizontalAdvance(QStringLiteral("Image 7")));
         const QImage shot = preview.grab().toImage();
         QCOMPARE(paintedRect(shot, RED).width(), preview.anchorOf(7).x() - preview.anchorOf(0).x() + 6);
         QCOMPARE(preview.cachedPictures(), 8);

@@ -242,10 +242,16 @@ const QPixmap& ArtPreview::picture(unsigned image, unsigned frame)
     return *cache.insert(key, QPixmap::fromImage(withoutKey(converted)));
 }
 
+// A cell is as wide as its stage, and never narrower than the image's name over it: a small sprite at
+// zoom 1 would otherwise cut "Image 7" to "Image". The action mark after the name may be shortened.
 QSize ArtPreview::cellSize() const
 {
     const QSize inside = extent.isNull() ? QSize(64, 64) : extent.size() * factor;
-    return inside + QSize(2 * MARGIN, 2 * MARGIN + LABEL_HEIGHT);
+    const unsigned last = artfile != nullptr && artfile->isLoaded() && artfile->getImageCount() > 0
+        ? artfile->getImageCount() - 1
+        : 0;
+    const int label = fontMetrics().horizontalAdvance(tr("Image %1").arg(last));
+    return QSize(std::max(inside.width(), label) + 2 * MARGIN, inside.height() + 2 * MARGIN + LABEL_HEIGHT);
 }
 
 int ArtPreview::columnsFor(int width) const
@@ -323,8 +329,9 @@ void ArtPreview::paintCell(QPainter& painter, unsigned image, const QRect& cell)
     const bool action = artfile->actionFrame() == quint32(currentFrame);
     painter.setPen(palette().color(QPalette::WindowText));
     const QString label = action ? tr("Image %1 · action").arg(image) : tr("Image %1").arg(image);
-    painter.drawText(QRect(cell.left() + MARGIN, cell.top(), cell.width() - 2 * MARGIN, LABEL_HEIGHT),
-                     Qt::AlignLeft | Qt::AlignVCenter, label);
+    const int labelWidth = cell.width() - 2 * MARGIN;
+    painter.drawText(QRect(cell.left() + MARGIN, cell.top(), labelWidth, LABEL_HEIGHT), Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics().elidedText(label, Qt::ElideRight, labelWidth));
     const QRect framed = frameRect(image, anchor);
     painter.save();
     painter.setClipRect(stage);
