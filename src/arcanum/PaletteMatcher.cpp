@@ -118,25 +118,26 @@ PaletteMatcher::PaletteMatcher(const Artfile::Colour (&palette)[Artfile::PALETTE
             continue;
         }
         colours[int(i)] = rgb;
-        const Lab lab = toLab(rgb);
-        entries.push_back({lab, std::sqrt(lab.a * lab.a + lab.b * lab.b), quint8(i)});
+        entries.push_back(quint8(i));
     }
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const Entry& x, const Entry& y) { return x.lab.l < y.lab.l; });
+    std::vector<Lab> labs(Artfile::PALETTE_SIZE);
+    for (const quint8 index : entries)
+        labs[index] = toLab(colours[index]);
+    std::stable_sort(entries.begin(), entries.end(), [&labs](quint8 x, quint8 y) { return labs[x].l < labs[y].l; });
     // Padded by a block on either side, so a block read from any entry stays inside the arrays.
     for (std::vector<float>* lane : {&lanes.l, &lanes.a, &lanes.b, &lanes.chroma})
         lane->assign(entries.size() + 2 * std::size_t(BLOCK), 0.0f);
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        lanes.l[i + BLOCK] = entries[i].lab.l;
-        lanes.a[i + BLOCK] = entries[i].lab.a;
-        lanes.b[i + BLOCK] = entries[i].lab.b;
-        lanes.chroma[i + BLOCK] = entries[i].chroma;
+        const Lab& lab = labs[entries[i]];
+        lanes.l[i + BLOCK] = lab.l;
+        lanes.a[i + BLOCK] = lab.a;
+        lanes.b[i + BLOCK] = lab.b;
+        lanes.chroma[i + BLOCK] = std::sqrt(lab.a * lab.a + lab.b * lab.b);
     }
+    const auto lightest = lanes.l.begin() + BLOCK;
     for (int l = 0; l < LIGHTNESS_STEPS; ++l)
         firstAtLightness[std::size_t(l)] =
-            int(std::lower_bound(entries.begin(), entries.end(), float(l),
-                                 [](const Entry& e, float value) { return e.lab.l < value; })
-                - entries.begin());
+            int(std::lower_bound(lightest, lightest + std::ptrdiff_t(entries.size()), float(l)) - lightest);
 }
 
 PaletteMatcher::Lab PaletteMatcher::toLab(QRgb colour)
@@ -193,11 +194,11 @@ int PaletteMatcher::search(const Lab& lab, int hint) const
     int best = hint >= 0 && hint < count ? hint : std::min(start, count - 1);
     distances(best);
     float bestDistance = block[0];
-    int bestIndex = entries[std::size_t(best)].index;
+    int bestIndex = entries[std::size_t(best)];
     // Equal distances go to the lower palette index, whichever way the search came. Without branches: which
     // of two near entries is nearer is a coin toss the processor cannot predict.
     const auto consider = [&](int i, float d) {
-        const int index = entries[std::size_t(i)].index;
+        const int index = entries[std::size_t(i)];
         const bool nearer = (d < bestDistance) | ((d == bestDistance) & (index < bestIndex));
         bestDistance = nearer ? d : bestDistance;
         best = nearer ? i : best;
@@ -235,7 +236,7 @@ quint8 PaletteMatcher::lookUp(QRgb colour, Cache& cache, int& hint) const
     if (entries.empty())
         return FALLBACK_INDEX;
     hint = search(toLab(colour), hint);
-    index = entries[std::size_t(hint)].index;
+    index = entries[std::size_t(hint)];
     cache.store(colour, index);
     return index;
 }
@@ -244,7 +245,7 @@ quint8 PaletteMatcher::nearest(QRgb colour) const
 {
     if (entries.empty())
         return FALLBACK_INDEX;
-    return entries[std::size_t(search(toLab(colour), -1))].index;
+    return entries[std::size_t(search(toLab(colour), -1))];
 }
 
 PaletteMatcher::Result PaletteMatcher::match(const QImage& image, bool dither) const

@@ -52,12 +52,6 @@ public:
     static float distance94(const Lab& reference, const Lab& other);
 
 private:
-    struct Entry
-    {
-        Lab lab;
-        float chroma = 0;
-        quint8 index = 0;
-    };
     class Cache;
     // Position in entries (not palette index) of the entry nearest to lab; hint is a position to try first.
     int search(const Lab& lab, int hint) const;
@@ -69,8 +63,8 @@ private:
 
     static constexpr int LIGHTNESS_STEPS = 101; // L* runs from 0 to 100
     static constexpr int BLOCK = 8;             // entries whose distances are worked out together
-    std::vector<Entry> entries; // the entries an opaque pixel may get, by lightness
-    // The same entries as one array per value, a block of padding on either side.
+    std::vector<quint8> entries; // palette indices an opaque pixel may get, by lightness
+    // Their colours in CIELAB and their chroma, one array per value, a block of padding on either side.
     struct Lanes
     {
         std::vector<float> l, a, b, chroma;

@@ -152,7 +152,9 @@ bool ArtPreview::isShown(unsigned image, unsigned frame) const
 void ArtPreview::measure()
 {
     extent = QRect();
-    if (artfile == nullptr || !artfile->isLoaded())
+    const unsigned images = artfile != nullptr && artfile->isLoaded() ? artfile->getImageCount() : 0;
+    nameWidth = fontMetrics().horizontalAdvance(tr("Image %1").arg(std::max(images, 1u) - 1));
+    if (images == 0)
         return;
     for (unsigned i = 0; i < artfile->getImageCount(); ++i)
         for (unsigned f = 0; f < artfile->getFrameCount(); ++f) {
@@ -247,11 +249,7 @@ const QPixmap& ArtPreview::picture(unsigned image, unsigned frame)
 QSize ArtPreview::cellSize() const
 {
     const QSize inside = extent.isNull() ? QSize(64, 64) : extent.size() * factor;
-    const unsigned last = artfile != nullptr && artfile->isLoaded() && artfile->getImageCount() > 0
-        ? artfile->getImageCount() - 1
-        : 0;
-    const int label = fontMetrics().horizontalAdvance(tr("Image %1").arg(last));
-    return QSize(std::max(inside.width(), label) + 2 * MARGIN, inside.height() + 2 * MARGIN + LABEL_HEIGHT);
+    return QSize(std::max(inside.width(), nameWidth) + 2 * MARGIN, inside.height() + 2 * MARGIN + LABEL_HEIGHT);
 }
 
 int ArtPreview::columnsFor(int width) const

@@ -96,6 +96,7 @@ private:
     QPixmap blank;
     // The union of every frame's rectangle around its hotspot at (0, 0), in frame pixels.
     QRect extent;
+    int nameWidth = 0; // of the longest "Image N" over a cell
     QBrush checkerboard;
     QColor background;
     unsigned paletteIndex = 0;
